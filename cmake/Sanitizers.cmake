@@ -1,0 +1,6 @@
+add_library(tervak_sanitizers INTERFACE)
+if(TERVAK_SANITIZE)
+  target_compile_options(tervak_sanitizers INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tervak_sanitizers INTERFACE -fsanitize=address,undefined)
+endif()
