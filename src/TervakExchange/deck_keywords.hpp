@@ -1,0 +1,34 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <variant>
+
+#include "TervakExchange/deck_curves.hpp"
+#include "TervakExchange/deck_scalars.hpp"
+#include "TervakExchange/deck_tables.hpp"
+
+namespace Vrsk::Plin::TervakExchange {
+
+/// A word that may open a line of a profile. AT and END are not among them.
+struct deck_keyword {
+  std::string_view name;
+  int revision = 0;  ///< 4 or 5; 0 = both
+  bool required = false;
+  std::variant<const deck_scalar*, const deck_table*, const deck_curves*> what;
+
+  [[nodiscard]] bool belongs_to(int profile_revision) const {
+    return revision == 0 || profile_revision == 0 || revision == profile_revision;
+  }
+};
+
+[[nodiscard]] std::span<const deck_keyword> deck_keywords();
+
+/// The keyword in either case of its letters, or null.
+[[nodiscard]] const deck_keyword* find_keyword(std::string_view word);
+
+/// The keyword that a misspelt word most likely means, or null when none is near. Of equally near ones, one
+/// of the profile's revision (0 = unknown).
+[[nodiscard]] const deck_keyword* nearest_keyword(std::string_view word, int revision);
+
+}  // namespace Vrsk::Plin::TervakExchange

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include "TervakExchange/decks.hpp"
+
+using namespace decks;
+
+namespace {
+
+#define NO_COMMA "; write a decimal point or a blank, no comma\n"
+#define NO_POINT "; an integer takes no point and no exponent\n"
+#define BEHIND_IT " behind it; comments open with \"!\"\n"
+
+struct row {
+  int line;           ///< of the deck, replaced by
+  std::string lines;  ///< these
+  std::string faults;
+};
+
+void expect_all(const char* deck, const std::vector<row>& rows) {
+  for (const row& r : rows) EXPECT_EQ(places(with(deck, r.line, r.lines)), r.faults) << r.lines;
+}
+
+const std::string TITLE5 = "1:1: profile 1 \"Heading 5\" has ";
+const std::string TITLE4 = "1:1: profile 1 \"Heading 4\" has ";
+
+TEST(DeckRefusals, ValuesOfScalars) {
+  expect_all(
+      REVISION5,
+      {{3, "GAMWAT\n", "3:1: GAMWAT takes one number, found none\n"},
+       {3, "  GAMWAT\t10,1\n", "3:10: GAMWAT takes one number, found \"10,1\"" NO_COMMA},
+       {3, "GAMWAT 1O.1 2\n",
+        "3:8: GAMWAT takes one number, found \"1O.1\"\n"
+        "3:13: GAMWAT takes one number, found \"2\"" BEHIND_IT},
+       {3, "GAMWAT 1E400\n",
+        "3:8: GAMWAT takes one number, found \"1E400\"; it is beyond the range of a double\n"},
+       {3,
+        "GAMWAT \xC2\xA0"
+        "10\n",
+        "3:8: GAMWAT takes one number, found \"\xC2\xA0"
+        "10\"; it holds a character that is not plain ASCII\n"},
+       {7, "DIAM\n", "7:1: DIAM takes one or more numbers, found none\n"},
+       {7, "DIAM 1 nan 2 inf\nDIAM 3m\n",
+        "7:8: DIAM takes one or more numbers, found \"nan\"\n"
+        "7:14: DIAM takes one or more numbers, found \"inf\"\n"
+        "8:6: DIAM takes one or more numbers, found \"3m\"\n"},
+       {17, "MATPIL 1.0\n", "17:8: MATPIL takes one integer, found \"1.0\"" NO_POINT},
+       {17, "MATPIL 4294967297\n",
+        "17:8: MATPIL takes one integer, found \"4294967297\"; it is beyond 32 bits\n"},
+       {4, "ATMPRS 101.3\natmprs 100\n", "5:1: ATMPRS stands twice in this profile, first on line 4\n"}});
+}
+
+TEST(DeckRefusals, Revision) {
+  expect_all(
+      REVISION5,
+      {{2, "REVISION 6\n", "2:10: REVISION takes 4 or 5, found \"6\"\n"},
+       {2, "REVISION\n", "2:1: REVISION takes 4 or 5, found none\n"},
+       {2, "REVISION 5 4\n", "2:12: REVISION takes 4 or 5, found \"4\"" BEHIND_IT},
+       {2, "", TITLE5 + "no REVISION\n"},
+       {2, "SFSU 1\nREVISION 5\n", "3:1: REVISION comes first, right behind the heading of its profile\n"},
+       {1, "", "1:1: profile 1 has no heading, found REVISION; the first line of a deck is free text\n"},
+       {1, "REVISION B of the report\n",
+        "1:1: profile 1 has no heading, found REVISION; the first line of a deck is free text\n"},
+       {1, "revision 4 ! of the deck\n",
+        "1:1: profile 1 has no heading, found REVISION; the first line of a deck is free text\n"},
+       {1, "Revision 4 of the report\n", "accepted\n"},
+       {3, "GAMWAT 1\nMIDBOT 1\nRFTZ x\nLAYERS\n1 2 x\n",
+        "4:1: MIDBOT belongs to revision 4, this profile is revision 5\n"
+        "5:1: RFTZ belongs to revision 4, this profile is revision 5\n"
+        "6:1: LAYERS belongs to revision 4, this profile is revision 5\n"}});
+  expect_all(REVISION4, {{3, "MIDBOT 1\nESOL2 1\nNUMLAYM 1\n",
+                          "4:1: ESOL2 belongs to revision 5, this profile is revision 4\n"
+                          "5:1: NUMLAYM belongs to revision 5, this profile is revision 4\n"}});
+}
+
+TEST(DeckRefusals, Keywords) {
+  expect_all(REVISION5,
+             {{7, "DAIM 1.2\n", "7:1: unknown keyword \"DAIM\"; did you mean DIAM?\n"},
+              {18, "MAINLAYER\n", "18:1: unknown keyword \"MAINLAYER\"; did you mean MAINLAYERS?\n"},
+              {3, "GAMWAT=10.1\n", "3:1: unknown keyword \"GAMWAT=10.1\"; did you mean GAMWAT?\n"},
+              {3, "GAMWAT, 10.1\n", "3:1: unknown keyword \"GAMWAT,\"" NO_COMMA},
+              {3, "GAMWAT 1\nNUMLAYN 1\n", "4:1: unknown keyword \"NUMLAYN\"; did you mean NUMLAYM?\n"},
+              {3, "GAMWAT 1\nsomething else\n", "4:1: unknown keyword \"something\"\n"},
+              {3, "GAMWAT 1\n#x\n *\n/\n,5\n",
+               "4:1: a line cannot begin with \"#\"\n"
+               "5:2: a line cannot begin with \"*\"; a comment has its * in column 1\n"
+               "6:1: a line cannot begin with \"/\"\n"
+               "7:1: a line cannot begin with \",\"" NO_COMMA}});
+  expect_all(REVISION4,
+             {{3, "MIDBOT 1\nNUMLAYN 12\n", "4:1: unknown keyword \"NUMLAYN\"; did you mean NUMLAY?\n"}});
+}
+
+TEST(DeckRefusals, WhatIsMissing) {
+  expect_all(REVISION5,
+             {{3, "", TITLE5 + "no GAMWAT\n"},
+              {7, "", TITLE5 + "no DIAM\n"},
+              {17, "", TITLE5 + "no MATPIL\n"},
+              {4, "ATMPRS 1\nSIGEMB 0\n", TITLE5 + "SIGEMB but no AEMB\n" + TITLE5 + "SIGEMB but no BEMB\n"},
+              {4, "ATMPRS 1\nSIGCIR 0\n", TITLE5 + "SIGCIR but no RADCIR\n"},
+              {4, "ATMPRS 1\nRADCIR 1\nAEMB 1\n", "accepted\n"},
+              {4, "ATMPRS 1\nNUMDSP 2\n", TITLE5 + "no DISPLACEMENTS, NUMDSP says 2\n"}});
+  expect_all(REVISION4, {{3, "", TITLE4 + "no MIDBOT\n"}, {16, "", TITLE4 + "no RFTZ\n"}});
+  // The order of the file: what a later profile lacks comes behind the faults of an earlier one.
+  EXPECT_EQ(places(with(REVISION5, 6, "SUSTIF x\n") + std::string("END\n Boring\tB-7 \nREVISION 5\n") +
+                   with(with(with(REVISION5, 7, "DIAM x\n"), 3, ""), 2, "").substr(10)),
+            "6:8: SUSTIF takes one number, found \"x\"\n"
+            "25:1: profile 2 \"Boring B-7\" has no GAMWAT\n"
+            "30:6: DIAM takes one or more numbers, found \"x\"\n");
+}
+
+TEST(DeckRefusals, Tables) {
+  expect_all(REVISION5,
+             {{18, "MAINLAYERS 1\n", "18:12: MAINLAYERS stands alone on its line, found \"1\"" BEHIND_IT},
+              {19, "  1 30.5 18.1 12 20 35 0.7 21 45 31 0.01 0.25\n",
+               "19:3: MAINLAYERS row takes 13 fields, found 12\n"},
+              {19, "1 30.5 18.1 12 2O 35 0.7 21 45 31.5 0.01 0.25 0\n",
+               "19:16: MAINLAYERS column 5, CPTBOT, takes a number, found \"2O\"\n"
+               "19:32: MAINLAYERS column 10, PLIM, takes an integer, found \"31.5\"" NO_POINT},
+              {19, "1,30.5,18.1\n",
+               "19:1: MAINLAYERS row takes numbers parted by blanks, found \"1,30.5,18.1\"" NO_COMMA},
+              {23, "1 30.5 4 284 293 200 1 81 82\n", "23:1: SUBDIVISION row takes 7 or 12 fields, found 9\n"},
+              {21, "", "20:1: SKINFRICTION has 0 rows, MAINLAYERS has 1\n"},
+              {21, "1 3 15 16 17 18 19 20 1 1 0\n2 3 15 16 17 18 19 20 1 1 0\n",
+               "20:1: SKINFRICTION has 2 rows, MAINLAYERS has 1\n"},
+              {22, "NUMLAYM 2\nSUBDIVISION\n", "18:1: MAINLAYERS has 1 row, NUMLAYM says 2\n"},
+              {19, "SFSU 1\n1 30.5 18.1 12 20 35 0.7 21 45 31 0.01 0.25 99\n",
+               "20:1: this row belongs to no table, SFSU on line 19 takes no rows\n"
+               "21:1: SKINFRICTION has 1 row, MAINLAYERS has 0\n"
+               "23:1: SUBDIVISION has 1 row, MAINLAYERS has 0\n"},
+              {2, "+1 2\nREVISION 5\n", "2:1: this row belongs to no table\n"},
+              {18, "MODIFYPY\n1 2 0 1 1 1 1 1 1\n0 0 0 0 0 0 0 0 0\n2 3 0 1 1 1 1 1 1\n3 4 1\nMAINLAYERS\n",
+               "21:1: this row of MODIFYPY stands behind a row whose L1 is 0, which closes the list\n"
+               "22:1: this row of MODIFYPY stands behind a row whose L1 is 0, which closes the list\n"},
+              {18, "POINTLOADS\n1 2\nPOINTLOADS\n1 2 3\nMAINLAYERS\n",
+               "20:1: POINTLOADS stands twice in this profile, first on line 18\n"
+               "21:1: POINTLOADS row takes 2 fields, found 3\n"}});
+  expect_all(REVISION4, {{20, "0.5 - 16 - 0.03 900 0.35 0.05\n",
+                          "20:5: TZQZTABLE column 2, TCMP, takes a number, found \"-\"\n"},
+                         {20, "0.5 15 16 -- 0.03 900 0.35 0.05\n",
+                          "20:11: TZQZTABLE column 4, G0SOIL, takes a number or \"-\", found \"--\"\n"},
+                         {3, "MIDBOT 1\nNUMTYP 2\nNUMTQZ 1\nNUMLAY 13\n",
+                          "20:1: SOILTYPES has 1 row, NUMTYP says 2\n"
+                          "22:1: TZQZTABLE has 2 rows, NUMTQZ says 1\n"
+                          "25:1: LAYERS ends at layer 12, NUMLAY says 13\n"}});
+}
+
+TEST(DeckRefusals, Curves) {
+  const std::string unused = ": MANUALTZ is not used, no layer has the T-Z code 0\n";
+  expect_all(REVISION4,
+             {{3, "MIDBOT 1\nMANUALPY\nAT 5 1\n0 0\n", "accepted\n"},
+              {3, "MIDBOT 1\nNUMLAY 4\nMANUALPY\nAT 5 1\n0 0\n",  // code 0 stands behind the layers in use
+               "5:1: MANUALPY is not used, no layer has the P-Y code 0\n"},
+              {3, "MIDBOT 1\nMANUALTZ\nAT 1 1\n0 0\n", "4:1" + unused}});
+  expect_all(REVISION5,
+             {{3, "GAMWAT 1\nMANUALTZ\nAT 1 1\n", "4:1" + unused},
+              {3, "GAMWAT 1\nMANUALBSY\n1 2\nSFSU 1\n",
+               "4:1: MANUALBSY has no curve; AT, a layer and a diameter open one\n"
+               "5:1: this row stands before the first AT of MANUALBSY\n"},
+              {3, "GAMWAT 1\nMANUALBSY\nAT 1.0 x\n1 y\n1 2 3\nAT 1\nAT 1,2\n",
+               "5:4: AT takes an integer as layer, found \"1.0\"" NO_POINT
+               "5:8: AT takes a number as diameter, found \"x\"\n"
+               "6:3: MANUALBSY displacement takes a number, found \"y\"\n"
+               "7:1: MANUALBSY row takes 2 fields, found 3\n"
+               "8:1: AT takes a layer and a diameter, found 1 field behind it\n"
+               "9:4: AT takes numbers parted by blanks, found \"1,2\"" NO_COMMA},
+              {18, "AT 1 1.2\n0 0\nMAINLAYERS\n",
+               "18:1: AT opens a curve; it stands only behind the name of a curve table\n"},
+              {3, "GAMWAT 1\nMODIFYBSY\n1 1 1 1 1\nMODIFYMTHETA\nMODIFYBMTHETA\nMANUALBMTHETA\nAT 1 1\n",
+               "4:1: MODIFYBSY stands without MANUALBSY, which it modifies\n"
+               "6:1: MODIFYMTHETA stands without MANUALMTHETA, which it modifies\n"}});
+}
+
+}  // namespace
