@@ -1,0 +1,66 @@
+#include "fem/descriptor.hpp"
+
+#include <limits>
+#include <stdexcept>
+#include <string>
+
+namespace fem {
+
+namespace {
+
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+/// Takes the digits at the front of the text off it; 0 where there are none.
+int take_number(std::string_view& text) {
+  constexpr int MOST = std::numeric_limits<int>::max();
+  const std::string_view whole = text;
+  int value = 0;
+  for (; !text.empty() && is_digit(text.front()); text.remove_prefix(1)) {
+    const int digit = text.front() - '0';
+    if (value > (MOST - digit) / 10)
+      throw std::runtime_error("number out of range in format: " + std::string(whole));
+    value = 10 * value + digit;
+  }
+  return value;
+}
+
+}  // namespace
+
+int number_in_format(std::string_view digits) {
+  const bool negative = digits.front() == '-';
+  if (negative || digits.front() == '+') digits.remove_prefix(1);
+  const int value = take_number(digits);
+  return negative ? -value : value;
+}
+
+field_size size_of_field(std::string_view descriptor) {
+  descriptor.remove_prefix(1);
+  field_size size{};
+  size.width = take_number(descriptor);
+  if (descriptor.empty()) return size;
+  descriptor.remove_prefix(1);  // the point
+  size.decimals = take_number(descriptor);
+  return size;
+}
+
+bool is_data_edit(std::string_view descriptor) {
+  switch (descriptor.front()) {
+    case 'a':
+    case 'd':
+    case 'e':
+    case 'f':
+    case 'g':
+    case 'i':
+    case 'l':
+    case 'z':
+      return true;
+    default:
+      return false;
+  }
+}
+
+int number_ahead(std::string_view descriptor, int otherwise) {
+  return descriptor.size() > 1 ? number_in_format(descriptor) : otherwise;
+}
+
+}  // namespace fem

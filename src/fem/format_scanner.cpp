@@ -1,0 +1,174 @@
+#include "fem/format_scanner.hpp"
+
+#include <stdexcept>
+
+namespace fem {
+
+namespace {
+
+constexpr const char* INVALID = "Invalid FORMAT specification: ";
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+/// Drops blanks and tabs and folds capitals, both outside quoted text only. Returns the new length.
+std::size_t filter(std::string_view format, char* target) {
+  char* out = target;
+  char quote = '\0';
+  for (char c : format) {
+    if (quote != '\0') {
+      // A doubled quote character closes and opens again, which comes to the same.
+      if (c == quote) quote = '\0';
+    } else if (c == ' ' || c == '\t') {
+      continue;
+    } else if (c == '\'' || c == '"') {
+      quote = c;
+    } else if (c >= 'A' && c <= 'Z') {
+      c = static_cast<char>(c - 'A' + 'a');
+    }
+    *out++ = c;
+  }
+  return static_cast<std::size_t>(out - target);
+}
+
+}  // namespace
+
+format_scanner::format_scanner(std::string_view format) : format_(format) {
+  text_ = short_text_.data();
+  if (format.size() > short_text_.size()) {
+    long_text_.resize(format.size());
+    text_ = long_text_.data();
+  }
+  const std::size_t size = filter(format, text_);
+  if (size == 0) throw std::runtime_error(std::string(INVALID) + "empty string");
+  if (text_[0] != '(' || text_[size - 1] != ')') invalid(INVALID);
+  end_ = size - 1;
+  tokens_.reserve(32);
+  while (next_ < end_) scan_token();
+}
+
+void format_scanner::scan_token() {
+  const std::size_t start = next_;
+  switch (text_[next_]) {
+    case ',':
+      ++next_;
+      return;
+    case 'x':
+      ++next_;
+      return add(format_token_type::format, start);
+    case '(':
+    case ')':
+    case ':':
+    case '/':
+    case '$':
+      ++next_;
+      return add(format_token_type::op, start);
+    case '\'':
+    case '"':
+      return scan_quoted();
+    case '+':
+    case '-':
+      return scan_sign();
+    case '0':
+    case '1':
+    case '2':
+    case '3':
+    case '4':
+    case '5':
+    case '6':
+    case '7':
+    case '8':
+    case '9':
+      return scan_digits();
+    case 'd':
+    case 'e':
+    case 'f':
+    case 'g':
+    case 'i':
+    case 'z':
+      return scan_sized(true);
+    case 'a':
+    case 'l':
+      return scan_sized(false);
+    case 'b':
+      if (at(next_ + 1) != 'n' && at(next_ + 1) != 'z') invalid(INVALID);
+      next_ += 2;
+      return add(format_token_type::format, start);
+    case 's':
+      next_ += at(next_ + 1) == 'p' || at(next_ + 1) == 's' ? 2U : 1U;
+      return add(format_token_type::format, start);
+    case 't':
+      return scan_tab();
+    default:
+      invalid(INVALID);
+  }
+}
+
+/// A doubled quote character is reduced in place.
+void format_scanner::scan_quoted() {
+  const char quote = text_[next_++];
+  const std::size_t start = next_;
+  std::size_t out = start;
+  for (;; ++next_) {
+    if (next_ >= end_) invalid(INVALID);
+    if (text_[next_] == quote) {
+      if (at(next_ + 1) != quote) break;
+      ++next_;
+    }
+    text_[out++] = text_[next_];
+  }
+  ++next_;
+  tokens_.push_back({format_token_type::string, {text_ + start, out - start}});
+}
+
+void format_scanner::scan_sign() {
+  const std::size_t start = next_++;
+  if (!pass_digits() || at(next_) != 'p') invalid(INVALID);
+  ++next_;
+  add(format_token_type::format, start);
+}
+
+void format_scanner::scan_digits() {
+  const std::size_t start = next_;
+  pass_digits();
+  const char behind = at(next_);
+  if (behind == 'h') invalid("FATAL: Not supported: FORMAT Hollerith edit descriptor: ");
+  if (behind != 'x' && behind != 'p') return add(format_token_type::integer, start);
+  ++next_;
+  add(format_token_type::format, start);
+}
+
+void format_scanner::scan_tab() {
+  const std::size_t start = next_++;
+  if (at(next_) == 'l' || at(next_) == 'r') ++next_;
+  if (!pass_digits()) invalid(INVALID);
+  add(format_token_type::format, start);
+}
+
+/// A letter with a width and decimals where they stand: "e12.4", "i5", "a".
+void format_scanner::scan_sized(bool may_have_decimals) {
+  const std::size_t start = next_++;
+  if (pass_digits() && may_have_decimals && at(next_) == '.') {
+    ++next_;
+    if (!pass_digits()) invalid(INVALID);
+  }
+  add(format_token_type::format, start);
+}
+
+bool format_scanner::pass_digits() {
+  const std::size_t start = next_;
+  while (is_digit(at(next_))) ++next_;
+  return next_ > start;
+}
+
+void format_scanner::add(format_token_type type, std::size_t start) {
+  tokens_.push_back({type, {text_ + start, next_ - start}});
+}
+
+/// The text is filtered anew, since quoted texts ahead of the fault were reduced in place.
+void format_scanner::invalid(const char* reason) const {
+  std::string filtered(format_.size(), '\0');
+  filtered.resize(filter(format_, filtered.data()));
+  throw std::runtime_error(reason + filtered);
+}
+
+}  // namespace fem
