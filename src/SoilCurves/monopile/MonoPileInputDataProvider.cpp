@@ -1,0 +1,25 @@
+#include "SoilCurves/monopile/MonoPileInputDataProvider.hpp"
+
+#include <stdexcept>
+#include <utility>
+
+namespace Varno::TervakLibrary::SoilCurves {
+
+MonoPileCurve MonoPileInputDataProvider::GetCurve(int NL, double DIAM) const {
+  const double length = converter_.Length(1.0);
+  const auto given = section_.GetManualCurve(NL, DIAM, length);
+  std::pair<double, double> factors = {1.0, 1.0};
+  try {
+    factors = modification_.GetModification(NL, DIAM, length);
+  } catch (const std::out_of_range&) {
+    // No line covers the pair: the curve stays as given.
+  }
+  const auto [force_factor, displacement_factor] = factors;
+  MonoPileCurve curve;
+  for (const auto& [displacement, force] : given)
+    curve.emplace_back(ConvertDisplacement(kind_, converter_, displacement) * displacement_factor,
+                       converter_.Force(force) * force_factor);
+  return curve;
+}
+
+}  // namespace Varno::TervakLibrary::SoilCurves
