@@ -60,8 +60,10 @@ void TervakMultipleSoilProfiles::Import(std::istream& stream, std::string_view l
 
   const std::vector<std::string_view> lines = split_lines(deck);
   deck_faults faults(file_name, lines);
+  const std::vector<profile_lines> ranges = split_profiles(lines, faults);
   std::vector<Tervak> profiles;
-  for (const profile_lines& range : split_profiles(lines, faults)) {
+  profiles.reserve(ranges.size());
+  for (const profile_lines& range : ranges) {
     profile_draft draft = profile_reader(lines, range, faults).read();
     check_profile(draft, faults);
     complete_profile(draft);

@@ -54,7 +54,11 @@ class deck_table_of final : public deck_table {
       : deck_table(name, revision, required),
         columns_(std::move(columns)),
         append_(append),
-        least_(columns_.size() - optional_columns) {}
+        least_(columns_.size() - optional_columns) {
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+      labels_.push_back(std::string(name) + " column " + std::to_string(i + 1) + ", " +
+                        std::string(columns_[i].name) + ",");
+  }
 
   bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const override;
 
@@ -62,6 +66,7 @@ class deck_table_of final : public deck_table {
   bool read_field(std::size_t i, const deck_field& field, R& record, deck_faults& faults) const;
 
   std::vector<deck_column<R>> columns_;
+  std::vector<std::string> labels_;  ///< how a refusal calls each column
   append_record append_;
   std::size_t least_;
 };
@@ -92,17 +97,14 @@ template <class R>
 bool deck_table_of<R>::read_field(std::size_t i, const deck_field& field, R& record,
                                   deck_faults& faults) const {
   const auto& place = columns_[i].place;
-  const auto who = [&] {
-    return std::string(name()) + " column " + std::to_string(i + 1) + ", " + std::string(columns_[i].name) +
-           ",";
-  };
+  const std::string& who = labels_[i];
   if (const auto* integer = std::get_if<int& (*)(R&)>(&place))
-    return read_integer(field, who(), "an integer", (*integer)(record), faults);
+    return read_integer(field, who, "an integer", (*integer)(record), faults);
   if (const auto* number = std::get_if<double& (*)(R&)>(&place))
-    return read_number(field, who(), "a number", (*number)(record), faults);
+    return read_number(field, who, "a number", (*number)(record), faults);
   if (field.text == "-") return true;
   double value = 0;
-  if (!read_number(field, who(), "a number or \"-\"", value, faults)) return false;
+  if (!read_number(field, who, "a number or \"-\"", value, faults)) return false;
   std::get<std::optional<double>& (*)(R&)>(place)(record) = value;
   return true;
 }

@@ -1,5 +1,6 @@
 #include "fem/descriptor.hpp"
 
+#include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -12,16 +13,15 @@ constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 /// Takes the digits at the front of the text off it; 0 where there are none.
 int take_number(std::string_view& text) {
-  constexpr int MOST = std::numeric_limits<int>::max();
-  const std::string_view whole = text;
-  int value = 0;
-  for (; !text.empty() && is_digit(text.front()); text.remove_prefix(1)) {
-    const int digit = text.front() - '0';
-    if (value > (MOST - digit) / 10)
-      throw std::runtime_error("number out of range in format: " + std::string(whole));
-    value = 10 * value + digit;
+  std::int64_t value = 0;
+  std::size_t used = 0;
+  for (; used < text.size() && is_digit(text[used]); ++used) {
+    value = 10 * value + (text[used] - '0');
+    if (value > std::numeric_limits<int>::max())
+      throw std::runtime_error("number out of range in format: " + std::string(text));
   }
-  return value;
+  text.remove_prefix(used);
+  return static_cast<int>(value);
 }
 
 }  // namespace

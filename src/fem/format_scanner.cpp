@@ -1,5 +1,6 @@
 #include "fem/format_scanner.hpp"
 
+#include <array>
 #include <stdexcept>
 
 namespace fem {
@@ -10,22 +11,26 @@ constexpr const char* INVALID = "Invalid FORMAT specification: ";
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
+/// What filtering makes of each character outside quoted text: '\0' drops it.
+constexpr std::array<char, 256> FOLDED = [] {
+  std::array<char, 256> folded{};
+  for (std::size_t c = 0; c < folded.size(); ++c) folded[c] = static_cast<char>(c);
+  for (char c = 'A'; c <= 'Z'; ++c) folded[static_cast<std::size_t>(c)] = static_cast<char>(c - 'A' + 'a');
+  folded[' '] = folded['\t'] = '\0';
+  return folded;
+}();
+
 /// Drops blanks and tabs and folds capitals, both outside quoted text only. Returns the new length.
 std::size_t filter(std::string_view format, char* target) {
   char* out = target;
-  char quote = '\0';
-  for (char c : format) {
-    if (quote != '\0') {
-      // A doubled quote character closes and opens again, which comes to the same.
-      if (c == quote) quote = '\0';
-    } else if (c == ' ' || c == '\t') {
-      continue;
-    } else if (c == '\'' || c == '"') {
-      quote = c;
-    } else if (c >= 'A' && c <= 'Z') {
-      c = static_cast<char>(c - 'A' + 'a');
-    }
-    *out++ = c;
+  for (std::size_t i = 0; i < format.size(); ++i) {
+    const char c = format[i];
+    *out = FOLDED[static_cast<unsigned char>(c)];
+    if (*out != '\0' || c == '\0') ++out;
+    if (c != '\'' && c != '"') continue;
+    // Quoted text stays as it is. A doubled quote character closes and opens again, which comes to the same.
+    while (++i < format.size() && format[i] != c) *out++ = format[i];
+    if (i < format.size()) *out++ = c;
   }
   return static_cast<std::size_t>(out - target);
 }

@@ -33,6 +33,7 @@ TEST(CurveDispatch, ACodeOutsideTheTablesEndsTheRunWithTheErrorWordAtZero) {
   };
   for (const row& r : rows) {
     small_layer layer;
+    layer.cmn.SURED(1) = 40.0;
     layer.cmn.LAYCOD(1) = r.code;
     EXPECT_FALSE(make_curves(layer.cmn, 1));
     EXPECT_EQ(layer.cmn.IERR, 0);
@@ -42,6 +43,8 @@ TEST(CurveDispatch, ACodeOutsideTheTablesEndsTheRunWithTheErrorWordAtZero) {
 
 TEST(CurveDispatch, AMethodThatFailsIsReportedWithLayerAndDiameter) {
   small_layer layer;
+  layer.cmn.SURED(1) = 40.0;
+  layer.cmn.GSOIL(1) = 1000.0;
   layer.cmn.LAYCOD(1) = {1, 284, 293, 999};
   EXPECT_FALSE(make_curves(layer.cmn, 1));
   EXPECT_EQ(layer.cmn.IERR, 1);
@@ -66,7 +69,8 @@ TEST(Identification, TheBannerHoldsNameTitleFrameAndDetails) {
   const auto blank = [&](int row) { return rows.at(static_cast<std::size_t>(row - 1)) == " "; };
   for (const int row : {1, 2, 3, 14, 15, 23, 24, 25, 31, 34}) EXPECT_TRUE(blank(row)) << row;
   for (int row = 4; row <= 13; ++row)
-    EXPECT_EQ(rows.at(static_cast<std::size_t>(row - 1)).find_first_not_of(' '), 6U);
+    EXPECT_EQ(rows.at(static_cast<std::size_t>(row - 1)).find_first_not_of(" *"), std::string::npos) << row;
+  EXPECT_EQ(rows[3].find('*'), 6U);
   EXPECT_EQ(rows[15], std::string(14, ' ') + std::string(50, '*'));
   EXPECT_EQ(rows[17],
             std::string(14, ' ') + "*" + std::string(18, ' ') + "T e r v a k" + std::string(19, ' ') + "*");
@@ -74,7 +78,7 @@ TEST(Identification, TheBannerHoldsNameTitleFrameAndDetails) {
   EXPECT_EQ(rows[21], rows[15]);
   EXPECT_EQ(rows[25].substr(0, 60), "  Program id   : Tervak    7.6.1.21       Computer         :");
   EXPECT_EQ(rows[26], "  Release date : 19-FEB-2021              Impl. update     :");
-  EXPECT_EQ(rows[27].substr(0, 61), "  Access time  :  5-MAR-2024  09:07:03    Operating system : ");
+  EXPECT_EQ(rows[27].substr(0, 61), "  Access time  : 05-MAR-2024  09:07:03    Operating system : ");
   EXPECT_EQ(rows[28].substr(42), "CPU id           : 0000000000");
 }
 

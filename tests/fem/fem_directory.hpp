@@ -11,6 +11,7 @@
 #include <string>
 #include <typeinfo>
 
+#include "fem/errors.hpp"
 #include "fem/io.hpp"
 
 /// A unit table in an empty directory of its own, the current one while the test runs.
@@ -56,3 +57,7 @@ std::string failure_of(const std::function<void()>& action) {
   }
   return "nothing thrown";
 }
+
+#define EXPECT_FAILURE(statement, text) EXPECT_EQ(failure_of([&] { statement; }), text)
+#define EXPECT_IO_ERR(statement, text) EXPECT_EQ(failure_of<fem::io_err>([&] { statement; }), text)
+#define EXPECT_READ_END(statement, text) EXPECT_EQ(failure_of<fem::read_end>([&] { statement; }), text)

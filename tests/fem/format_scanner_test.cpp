@@ -1,6 +1,5 @@
 #include "fem/format_scanner.hpp"
 
-#include "fem/errors.hpp"
 #include "fem/format_cursor.hpp"
 #include "fem_directory.hpp"
 
@@ -47,20 +46,16 @@ TEST(format_scanner, turns_each_notation_into_its_tokens) {
     const char* format;
     const char* tokens;
   } rows[] = {
-      {"()", ""},
-      {" ( 1X , A80 )\t", "1x a80"},
-      {"(1p,e11.3)", "1p e11.3"},
-      {"(1pe11.3)", "1p e11.3"},
+      // clang-format off
+      {"()", ""}, {" ( 1X , A80 )\t", "1x a80"}, {"(1p,e11.3)", "1p e11.3"}, {"(1pe11.3)", "1p e11.3"},
       {"(-1p,+2p,0p)", "-1p +2p 0p"},
       {"(x,3x,i5,I4.3,f8.3,g9.2,d12.4,z,l4,a)", "x 3x i5 i4.3 f8.3 g9.2 d12.4 z l4 a"},
-      {"(e12.4e3)", "e12.4 e3"},
-      {"(3(e13.3,i5):/$)", "3# ( e13.3 i5 ) : / $"},
+      {"(e12.4e3)", "e12.4 e3"}, {"(3(e13.3,i5):/$)", "3# ( e13.3 i5 ) : / $"},
       {"(/,1x,42('*'))", "/ 1x 42# ( '*' )"},
       {"(bn,bz,s,sp,ss,si5,t12,TL3,tr4)", "bn bz s sp ss s i5 t12 tl3 tr4"},
-      {"('P-Y, Curve',\"it's\",'''',1x)", "'P-Y, Curve' 'it's' ''' 1x"},
-      {"('a''b','c')", "'a'b' 'c'"},
-      {"((i5)", "( i5"},  // parentheses inside are not balanced
-      {"(3)", "3#"},
+      {"('P-Y, Curve',\"it's\",'''',1x)", "'P-Y, Curve' 'it's' ''' 1x"}, {"('a''b','c')", "'a'b' 'c'"},
+      {"((i5)", "( i5"}, {"(3)", "3#"},
+      // clang-format on
   };
   for (const auto& row : rows) EXPECT_EQ(scanned(row.format), row.tokens) << row.format;
 }
@@ -76,14 +71,13 @@ TEST(format_scanner, takes_formats_of_any_length) {
 }
 
 TEST(format_scanner, refuses_what_is_no_format) {
-  EXPECT_EQ(failure_of([] { scanned(" \t "); }), "Invalid FORMAT specification: empty string");
-  EXPECT_EQ(failure_of([] { scanned("(4H ABC)"); }),
-            "FATAL: Not supported: FORMAT Hollerith edit descriptor: (4habc)");
+  EXPECT_FAILURE(scanned(" \t "), "Invalid FORMAT specification: empty string");
+  EXPECT_FAILURE(scanned("(4H ABC)"), "FATAL: Not supported: FORMAT Hollerith edit descriptor: (4habc)");
   for (const char* format : {"i5", "(", ")", "(i5", "(e12.)", "(q)", "(-1x)", "(-p)", "(+)", "(t)", "(tlx)",
                              "(b)", "('abc)", "('it''s', E5.)", "(p)", "(.3)"}) {
     std::string filtered = format;
     if (filtered.back() == ')' && filtered.find('E') != std::string::npos) filtered = "('it''s',e5.)";
-    EXPECT_EQ(failure_of([&] { scanned(format); }), "Invalid FORMAT specification: " + filtered);
+    EXPECT_FAILURE(scanned(format), "Invalid FORMAT specification: " + filtered);
   }
 }
 
@@ -104,10 +98,9 @@ TEST(format_cursor, restarts_at_the_last_outer_group) {
 }
 
 TEST(format_cursor, refuses_bad_counts_and_parentheses_when_it_meets_them) {
-  EXPECT_EQ(failure_of([] { walked("(i5,3)", 2); }), "Trailing lone repeat count in format string.");
-  EXPECT_EQ(failure_of([] { walked("(i5,0i5)", 2); }), "Zero repeat count in format string.");
-  EXPECT_EQ(failure_of([] { walked("(i5),i6)", 2); }), "Unexpected closing parenthesis in format string.");
-  EXPECT_EQ(failure_of([] { walked("(99999999999i5)", 1); }), "number out of range in format: 99999999999");
-  EXPECT_EQ(failure_of<fem::io_err>([] { walked("()", 1); }),
-            "Empty format string but data editing requested.");
+  EXPECT_FAILURE(walked("(i5,3)", 2), "Trailing lone repeat count in format string.");
+  EXPECT_FAILURE(walked("(i5,0i5)", 2), "Zero repeat count in format string.");
+  EXPECT_FAILURE(walked("(i5),i6)", 2), "Unexpected closing parenthesis in format string.");
+  EXPECT_FAILURE(walked("(99999999999i5)", 1), "number out of range in format: 99999999999");
+  EXPECT_IO_ERR(walked("()", 1), "Empty format string but data editing requested.");
 }

@@ -1,6 +1,5 @@
 #include "fem/read.hpp"
 
-#include "fem/errors.hpp"
 #include "fem/file_positioning_chain.hpp"
 #include "fem_directory.hpp"
 
@@ -42,11 +41,10 @@ class read_test : public fem_directory {
     int iostat = 9;
     Item value{};
     const std::string what = failure_of<Failure>([&] {
-      if (format == nullptr) {
+      if (format == nullptr)
         fem::read_loop(units, UNIT).iostat (&iostat)(value);
-      } else {
+      else
         fem::read_loop(units, UNIT, format).iostat (&iostat)(value);
-      }
     });
     return std::to_string(iostat) + " " + what;
   }
@@ -171,11 +169,10 @@ TEST_F(read_test, unformatted_text_escapes_its_record_mark) {
   fem::fixed_text<3> bytes;
   loop(bytes);
   EXPECT_EQ(bytes.view(), "ab\xAA");
-  EXPECT_EQ(failure_of<fem::read_end>([&] { loop(text); }), "End of record during unformatted read");
+  EXPECT_READ_END(loop(text), "End of record during unformatted read");
   file(std::string("ab..\xAA\xAA\xAA\0next", 12));
   { fem::read_loop(units, UNIT, fem::io_mode::unformatted).text(text); }
   EXPECT_EQ(text.view(), "ab..");
   EXPECT_EQ(next_line(), "next");
-  EXPECT_EQ(failure_of<fem::read_end>([&] { fem::read_loop(units, UNIT, fem::io_mode::unformatted)(text); }),
-            "End of input during read");
+  EXPECT_READ_END(fem::read_loop(units, UNIT, fem::io_mode::unformatted)(text), "End of input during read");
 }

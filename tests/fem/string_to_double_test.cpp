@@ -25,28 +25,16 @@ TEST(string_to_double, reads_each_notation) {
     double value;
     const char* rest;
   } rows[] = {
-      {"12", 0, 0, 12.0, ""},
-      {" \t\r\n-12.5 x", 0, 0, -12.5, " x"},
-      {"+.5,", 0, 0, 0.5, ","},
-      {"12", 2, 0, 0.12, ""},
-      {"12.", 2, 0, 12.0, ""},
-      {"12E1", 2, 0, 1.2, ""},
-      {"3.0", 2, 1, 0.3, ""},
-      {"3.0E0", 2, 1, 3.0, ""},
-      {"3", 0, -1, 30.0, ""},
-      {"1.0D+2", 0, 0, 100.0, ""},
-      {"1d2", 0, 0, 100.0, ""},
-      {"1.5e-3z", 0, 0, 0.0015, "z"},
-      {"1.5-3", 0, 0, 0.0015, ""},
-      {"1.5+3E9", 0, 0, 1500.0, "E9"},
-      {"15-", 0, 0, 15.0, ""},
-      {"1.2.3", 0, 0, 1.2, ".3"},
-      {"00120.0", 0, 0, 120.0, ""},
-      {"0.00012", 0, 0, 0.00012, ""},
-      {"0", 0, 0, 0.0, ""},
-      {"1E308", 0, 0, 1e308, ""},
-      {"12345678901234567890123", 0, 0, 12345678901234567e6, ""},
+      // clang-format off
+      {"12", 0, 0, 12.0, ""}, {" \t\r\n-12.5 x", 0, 0, -12.5, " x"}, {"+.5,", 0, 0, 0.5, ","},
+      {"12", 2, 0, 0.12, ""}, {"12.", 2, 0, 12.0, ""}, {"12E1", 2, 0, 1.2, ""}, {"3.0", 2, 1, 0.3, ""},
+      {"3.0E0", 2, 1, 3.0, ""}, {"3", 0, -1, 30.0, ""}, {"1.0D+2", 0, 0, 100.0, ""},
+      {"1d2", 0, 0, 100.0, ""}, {"1.5e-3z", 0, 0, 0.0015, "z"}, {"1.5-3", 0, 0, 0.0015, ""},
+      {"1.5+3E9", 0, 0, 1500.0, "E9"}, {"15-", 0, 0, 15.0, ""}, {"1.2.3", 0, 0, 1.2, ".3"},
+      {"00120.0", 0, 0, 120.0, ""}, {"0.00012", 0, 0, 0.00012, ""}, {"0", 0, 0, 0.0, ""},
+      {"1E308", 0, 0, 1e308, ""}, {"12345678901234567890123", 0, 0, 12345678901234567e6, ""},
       {"100000000000000000000009", 0, 0, 1e23, ""},
+      // clang-format on
   };
   for (const auto& row : rows) {
     simple_istream_from_std_string in(row.text);
@@ -77,16 +65,12 @@ TEST(string_to_double, tells_why_there_is_no_number) {
     const char* text;
     std::string failure;
   } rows[] = {
-      {"abc", invalid + "\"a\" (ordinal=97)"},
-      {"+-5", invalid + "\"-\" (ordinal=45)"},
-      {"..5", invalid + "\".\" (ordinal=46)"},
-      {"1E+x", invalid + "\"x\" (ordinal=120)"},
-      {"1E\n", invalid + "ordinal=10"},
-      {"", at_end},
-      {" -", at_end},
-      {"1E", at_end},
-      {"1E309", range},
+      // clang-format off
+      {"abc", invalid + "\"a\" (ordinal=97)"}, {"+-5", invalid + "\"-\" (ordinal=45)"},
+      {"..5", invalid + "\".\" (ordinal=46)"}, {"1E+x", invalid + "\"x\" (ordinal=120)"},
+      {"1E\n", invalid + "ordinal=10"}, {"", at_end}, {" -", at_end}, {"1E", at_end}, {"1E309", range},
       {"0.1E-310", range},
+      // clang-format on
   };
   for (const auto& row : rows) {
     simple_istream_from_std_string in(row.text);
@@ -107,12 +91,12 @@ TEST(character_description, names_what_cannot_be_seen) {
   const struct {
     int c;
     const char* text;
-  } rows[] = {{'~', "\"~\" (ordinal=126)"},
-              {' ', "\" \" (ordinal=32)"},
-              {'"', "'\"' (double quote, ordinal=34)"},
-              {'\'', "\"'\" (single quote, ordinal=39)"},
-              {31, "ordinal=31"},
-              {127, "ordinal=127"},
-              {-1, "ordinal=255"}};
+  } rows[] = {
+      // clang-format off
+      {'~', "\"~\" (ordinal=126)"}, {' ', "\" \" (ordinal=32)"}, {'"', "'\"' (double quote, ordinal=34)"},
+      {'\'', "\"'\" (single quote, ordinal=39)"}, {31, "ordinal=31"}, {127, "ordinal=127"},
+      {-1, "ordinal=255"},
+      // clang-format on
+  };
   for (const auto& row : rows) EXPECT_EQ(fem::utils::character_description(row.c), row.text);
 }

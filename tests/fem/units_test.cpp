@@ -2,7 +2,6 @@
 #include <filesystem>
 #include <utility>
 
-#include "fem/errors.hpp"
 #include "fem/file_positioning_chain.hpp"
 #include "fem/open_chain.hpp"
 #include "fem/read.hpp"
@@ -25,68 +24,49 @@ class units_test : public fem_directory {
 }  // namespace
 
 TEST_F(units_test, open_reports_through_iostat_only_and_success_leaves_it) {
-  int iostat = 7;
   put("there", "old text\n");
-  fem::open(units, 14, " there ")
-      .status("OLD")
-      .form("FORMATTED")
-      .access("SEQUENTIAL")
-      .iostat(&iostat)
-      .finish();
-  EXPECT_EQ(iostat, 7);
-  fem::open(units, 15, "missing").status("old").iostat(&iostat).finish();
-  EXPECT_EQ(iostat, 1);
-  EXPECT_FALSE(exists("missing"));
-  iostat = 0;
-  fem::open(units, 16, "there").status(" New ").iostat(&iostat).finish();
-  EXPECT_EQ(iostat, 1);
+  const auto iostat_of = [&](int unit, const char* name, const char* status, int iostat = 7) {
+    fem::open(units, unit, name).status(status).form("FORMATTED").iostat(&iostat).finish();
+    return iostat;
+  };
+  EXPECT_EQ(iostat_of(14, " there ", "OLD"), 7);
+  EXPECT_EQ(iostat_of(15, "missing", "old"), 1);
+  EXPECT_EQ(iostat_of(16, "there", " New "), 1);
+  EXPECT_EQ(iostat_of(17, "no/such/directory", "unknown"), 1);
+  EXPECT_EQ(iostat_of(18, "fresh", "NEW", 1), 1);
   EXPECT_EQ(get("there"), "old text\n");
-  iostat = 0;
-  fem::open(units, 16, "no/such/directory").iostat(&iostat).finish();
-  EXPECT_EQ(iostat, 1);
-  fem::open(units, 16, "fresh").status("NEW").iostat(&iostat).finish();
-  EXPECT_EQ(iostat, 1);
-  EXPECT_TRUE(exists("fresh"));
+  EXPECT_TRUE(exists("fresh") && !exists("missing"));
 }
 
 TEST_F(units_test, open_without_iostat_throws_but_for_a_missing_old_file) {
-  put("there", "");
   EXPECT_NO_THROW(fem::open(units, 14, "missing").status("OLD").finish());
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::open(units, 15, "there").status("NEW").finish(); }),
-            "OPEN NEW error: file exists already: there");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::open(units, 15, "no/file").finish(); }),
-            "Error opening file: no/file");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::open(units, 16, "no/file").status("NEW").finish(); }),
-            "Error opening file: no/file");
+  EXPECT_IO_ERR(fem::open(units, 15, "no/file").finish(), "Error opening file: no/file");
+  EXPECT_IO_ERR(fem::open(units, 16, "no/file").status("NEW").finish(), "Error opening file: no/file");
 }
 
 TEST_F(units_test, a_unit_whose_open_failed_takes_no_statement) {
   fem::open(units, 14, "missing").status("OLD").finish();
   int iostat = 0;
-  EXPECT_EQ(failure_of<fem::io_err>([&] { line(14); }), "unit 14 has no open file to read from: missing");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::write(units, 14, "(i5)", 1); }),
-            "Cannot truncate file for writing: missing");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::rewind(units, 14); }), "Error rewinding file: missing");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::endfile(units, 14); }), "ENDFILE failure: missing");
+  EXPECT_IO_ERR(line(14), "unit 14 has no open file to read from: missing");
+  EXPECT_IO_ERR(fem::write(units, 14, "(i5)", 1), "Cannot truncate file for writing: missing");
+  EXPECT_IO_ERR(fem::rewind(units, 14), "Error rewinding file: missing");
+  EXPECT_IO_ERR(fem::endfile(units, 14), "ENDFILE failure: missing");
   fem::rewind(units, 14, &iostat);
   EXPECT_EQ(iostat, 1);
 }
 
 TEST_F(units_test, keywords_and_record_length_are_checked_ahead_of_the_file) {
   int iostat = 0;
-  EXPECT_EQ(failure_of([&] { fem::open(units, 9, "f").form(" Print").finish(); }),
-            "OPEN FORM: invalid keyword: \" Print\"");
-  EXPECT_EQ(failure_of([&] { fem::open(units, 9, "g").status("").finish(); }),
-            "OPEN STATUS: invalid keyword: \"\"");
-  EXPECT_EQ(failure_of([&] { fem::open(units, 9, "h").access("append").finish(); }),
-            "OPEN ACCESS: invalid keyword: \"append\"");
-  EXPECT_EQ(
-      failure_of<fem::io_err>([&] { fem::open(units, 9, "i").access("DIRECT").iostat(&iostat).finish(); }),
-      "OPEN error: unit=9 connected for DIRECT access but recl=0");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::open(units, 9, "j").recl(80).iostat(&iostat).finish(); }),
-            "OPEN error: unit=9 connected for SEQUENTIAL access but recl=80 (it must be omitted)");
-  EXPECT_EQ(failure_of([&] { fem::open(units, 9, "k").access("DIRECT").recl(80).iostat(&iostat).finish(); }),
-            "Not implemented: io_open.cpp(#)");
+  EXPECT_FAILURE(fem::open(units, 9, "f").form(" Print").finish(), "OPEN FORM: invalid keyword: \" Print\"");
+  EXPECT_FAILURE(fem::open(units, 9, "g").status("").finish(), "OPEN STATUS: invalid keyword: \"\"");
+  EXPECT_FAILURE(fem::open(units, 9, "h").access("append").finish(),
+                 "OPEN ACCESS: invalid keyword: \"append\"");
+  EXPECT_IO_ERR(fem::open(units, 9, "i").access("DIRECT").iostat(&iostat).finish(),
+                "OPEN error: unit=9 connected for DIRECT access but recl=0");
+  EXPECT_IO_ERR(fem::open(units, 9, "j").recl(80).iostat(&iostat).finish(),
+                "OPEN error: unit=9 connected for SEQUENTIAL access but recl=80 (it must be omitted)");
+  EXPECT_FAILURE(fem::open(units, 9, "k").access("DIRECT").recl(80).iostat(&iostat).finish(),
+                 "Not implemented: io_open.cpp(#)");
   const char* const table[] = {"old", "new", nullptr};
   EXPECT_EQ(fem::io::keyword_index(table, " NEW ", nullptr), 1);
   EXPECT_EQ(fem::io::keyword_index(table, "renew", nullptr), -1);
@@ -95,10 +75,9 @@ TEST_F(units_test, keywords_and_record_length_are_checked_ahead_of_the_file) {
 TEST_F(units_test, a_unit_nobody_opened_gets_a_file_of_its_own_name) {
   for (const int unit : {7, 30, 1234}) fem::write(units, unit, "(i1)", 1);
   EXPECT_EQ(get("fem_io_unit_007"), "1\r\n");
-  EXPECT_TRUE(exists("fem_io_unit_030"));
-  EXPECT_TRUE(exists("fem_io_unit_1234"));
   fem::rewind(units, 15);
-  EXPECT_TRUE(exists("fem_io_unit_015"));
+  for (const char* name : {"fem_io_unit_030", "fem_io_unit_1234", "fem_io_unit_015"})
+    EXPECT_TRUE(exists(name));
 }
 
 TEST_F(units_test, writing_cuts_the_file_at_the_present_position) {
@@ -109,7 +88,7 @@ TEST_F(units_test, writing_cuts_the_file_at_the_present_position) {
   fem::write(units, 14, "('new')");
   fem::write(units, 14, "('more')");
   EXPECT_EQ(get("f"), "one\r\ntwo\nnew\r\nmore\r\n");
-  EXPECT_EQ(failure_of<fem::read_end>([&] { line(14); }), "End of input during read");
+  EXPECT_READ_END(line(14), "End of input during read");
   fem::write(units, 14, "('last')");
   EXPECT_EQ(get("f"), "one\r\ntwo\nnew\r\nmore\r\nlast\r\n");
   fem::rewind(units, 14);
@@ -123,22 +102,15 @@ TEST_F(units_test, writing_cuts_the_file_at_the_present_position) {
   EXPECT_EQ(get("f"), "x\r\n");
 }
 
+// Nobody, not even root, writes to a running program or to a directory.
 TEST_F(units_test, a_file_that_may_not_be_appended_to_opens_for_reading) {
-  int iostat = 0;
-  std::filesystem::create_directory(
-      "d");  // nobody, not even root, writes to a directory or a running program
-  fem::open(units, 14, "d").status("NEW").iostat(&iostat).finish();
-  EXPECT_EQ(iostat, 1);
-  iostat = 0;
-  fem::open(units, 14, "/proc/self/exe").iostat(&iostat).finish();
-  EXPECT_EQ(iostat, 0);
-  EXPECT_EQ(line(14).substr(0, 4),
-            "\x7f"
-            "ELF");
-  EXPECT_EQ(failure_of<fem::io_err>([&] { fem::write(units, 14, "(i1)", 1); }),
-            "Cannot truncate file for writing: /proc/self/exe");
+  std::filesystem::create_directory("d");
+  EXPECT_IO_ERR(fem::open(units, 13, "d").status("NEW").finish(), "OPEN NEW error: file exists already: d");
+  fem::open(units, 14, "/proc/self/exe").finish();
+  EXPECT_EQ(line(14).substr(1, 3), "ELF");
+  EXPECT_IO_ERR(fem::write(units, 14, "(i1)", 1), "Cannot truncate file for writing: /proc/self/exe");
   fem::open(units, 15, "d").finish();
-  EXPECT_EQ(failure_of<fem::io_err>([&] { line(15); }), "Error during read");
+  EXPECT_IO_ERR(line(15), "Error during read");
 }
 
 TEST_F(units_test, close_takes_the_unit_out_of_the_table) {
@@ -158,7 +130,7 @@ TEST_F(units_test, close_takes_the_unit_out_of_the_table) {
 
 TEST_F(units_test, another_name_reconnects_and_the_same_name_is_refused) {
   fem::open(units, 14, "a").finish();
-  EXPECT_EQ(failure_of([&] { fem::open(units, 14, "a "); }), "Not implemented: io_open.cpp(#)");
+  EXPECT_FAILURE(fem::open(units, 14, "a "), "Not implemented: io_open.cpp(#)");
   fem::open(units, 14, "b").finish();
   fem::write(units, 14, "('b')");
   EXPECT_EQ(get("b"), "b\r\n");
@@ -167,14 +139,16 @@ TEST_F(units_test, another_name_reconnects_and_the_same_name_is_refused) {
 }
 
 TEST_F(units_test, standard_units_are_left_alone) {
-  fem::close(units, 6);
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   fem::write(units, 6, "(i3)", 42);
   fem::write(units, 0, "(i3)", 43);
   EXPECT_EQ(testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr(), " 42\n 43\n");
-  EXPECT_EQ(failure_of([&] { fem::endfile(units, 0); }), "Not implemented: io.cpp(#)");
-  EXPECT_EQ(failure_of([&] { fem::backspace(units, 14); }), "Not implemented: io.cpp(#)");
+  fem::close(units, 6);  // the stream stays open, but the unit is gone
+  EXPECT_IO_ERR(fem::write(units, 6, "(i3)", 42), "Error opening file: ");
+  EXPECT_EQ(std::fflush(stdout), 0);
+  EXPECT_FAILURE(fem::endfile(units, 0), "Not implemented: io.cpp(#)");
+  EXPECT_FAILURE(fem::backspace(units, 14), "Not implemented: io.cpp(#)");
 }
 
 TEST_F(units_test, scratch_files_live_until_their_unit_is_closed) {
@@ -204,8 +178,8 @@ TEST(scratch_names, passes_over_names_that_exist_and_gives_up_in_the_end) {
   const std::string third = names.next([&](const std::string&) { return ++tried < 3; });
   EXPECT_EQ(tried, 3);
   EXPECT_NE(third, first);
-  EXPECT_EQ(failure_of([&] { names.next([&](const std::string&) { return ++tried > 0; }); }),
-            "scratch_names.cpp(#): ASSERT(run_away_counter < 1000) failure.");
+  EXPECT_FAILURE(names.next([&](const std::string&) { return ++tried > 0; }),
+                 "scratch_names.cpp(#): ASSERT(run_away_counter < 1000) failure.");
   EXPECT_EQ(tried, 1003);
 }
 

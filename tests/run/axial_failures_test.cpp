@@ -62,7 +62,7 @@ const failure FAILURES[] = {
     {"NGI tip that beats the plug", HARD_SAND, "3 20.0 30.0 20.0 30.0 0.0 0.0", 10.0, 0.01,
      " **** SR/R5AXCAP : Tip code error in SR/NGI05TS\r\n Layer,ITIP=    1    1", ""},
     {"API tip that beats the plug", "0.0 0.0 40.0 0.0 0.0 0.0 0 0.0 0.0 0.0", "1 20.0 30.0 20.0 30.0 0.0 0.0",
-     30.0, 0.1, " **** SR/R5AXCAP : Tip code error in SR/APITipResistance\r\n Layer,ITIP=    1    1", ""},
+     30.0, 0.1, " **** SR/R5AXCAP : Tip code error in SR/APITipResistance\r\n Layer,ITIP=    2    1", ""},
 };
 
 std::string deck_of(const failure& row) {
