@@ -9,8 +9,8 @@ namespace tervak {
 /// behind R5SOIL. Values that the deck gave stay; layers above the local scour level are passed over.
 ///
 /// The methods take the unfactored strength. A wall above a quarter of the diameter counts as a closed tip; a
-/// layer below the tip stands as if at the tip. Every failure prints on the run log and the listing and ends
-/// the run (fem::stop_info).
+/// layer below the tip stands as if at the tip. Every failure ends the run (fem::stop_info): a
+/// method's error prints on the run log and the listing, a tip that does not plug on the run log only.
 void R5AXCAP(common& cmn);
 
 }  // namespace tervak

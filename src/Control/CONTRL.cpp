@@ -1,7 +1,9 @@
 #include "Control/CONTRL.hpp"
 
+#include <cstddef>
 #include <exception>
 #include <fstream>
+#include <memory>
 
 #include "Control/AxialCapacityControl.hpp"
 #include "Control/BUILD.hpp"

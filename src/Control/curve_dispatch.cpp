@@ -1,6 +1,7 @@
 #include "Control/curve_dispatch.hpp"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <limits>
 

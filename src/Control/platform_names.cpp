@@ -17,9 +17,9 @@ platform_names ask() {
     names.operating_system = std::string(system.sysname) + " " + system.release;
   }
   if (const passwd* account = getpwuid(geteuid())) names.user = std::string(account->pw_name).substr(0, 20);
-  const long cores = sysconf(_SC_NPROCESSORS_ONLN);
-  names.processor = (known ? std::string(system.machine) + ", " : std::string()) +
-                    std::to_string(cores > 0 ? cores : 1) + " cores";
+  if (known) names.processor = system.machine;
+  if (const long cores = sysconf(_SC_NPROCESSORS_ONLN); cores > 0)
+    names.processor += (known ? ", " : "") + std::to_string(cores) + " cores";
   return names;
 }
 

@@ -33,7 +33,7 @@ void read_counts(common& cmn, const Tervak& profile) {
   cmn.NUMLAY = revision4 ? input.NumberOfLayers : input.NumberOfMainLayers;
   cmn.NUMLAYM = cmn.NUMLAY;
   cmn.NUMDSP = input.NumberOfDisplacements;
-  if (revision4) cmn.MIDBOT = input.LevelSwitch;
+  cmn.MIDBOT = revision4 ? input.LevelSwitch : 0;  // the layer build of revision 5 sets its own
 }
 
 void read_environment(common& cmn, const Tervak& profile) {

@@ -4,7 +4,7 @@
 
 namespace tervak {
 
-/// Unit skin friction in sand, API RP 2A (15th and later editions, 6.4.3): K * SIGZ * tan(PHI - 5 degrees),
+/// Unit skin friction in sand, API RP 2A, 6.4.3: K * SIGZ * tan(PHI - 5 degrees),
 /// with a limit that grows from 48 to 115 kPa with the friction angle.
 ///
 /// SIGZ effective vertical stress (run units); PHI degrees, used within 20 to 40; IOC 1 open, 2 closed tip.

@@ -4,7 +4,7 @@
 
 namespace tervak {
 
-/// Unit skin friction in clay, API RP 2A (18th and later editions, 6.4.2): alpha * SU with alpha from the
+/// Unit skin friction in clay, API RP 2A, 6.4.2: alpha * SU with alpha from the
 /// ratio SU / SIGZ, at most 1.
 ///
 /// SIGZ effective vertical stress, SU undrained strength, TAUSKN the friction, all in one unit. IERR: a value

@@ -54,6 +54,10 @@ void read_loop::finish() {
   cursor_.reset();
 }
 
+void read_loop::check_open() const {
+  if (!in_) throw io_err("read statement has ended already");
+}
+
 void read_loop::end_statement() {
   if (mode_ == io_mode::unformatted)
     skip_unformatted_record();

@@ -44,6 +44,7 @@ class read_loop {
   void finish();
 
  private:
+  void check_open() const;
   int get_char();
   int get_folded();
   std::string_view next_edit_descriptor();

@@ -25,6 +25,7 @@ int with_sign(unsigned value, bool negative) { return static_cast<int>(negative 
 }  // namespace
 
 read_loop& read_loop::integer(int& value) {
+  check_open();
   if (mode_ == io_mode::unformatted) utils::not_implemented();
   if (mode_ == io_mode::formatted) {
     const std::string_view descriptor = next_edit_descriptor();
@@ -78,6 +79,7 @@ int read_loop::integer_free() {
 }
 
 read_loop& read_loop::real(double& value) {
+  check_open();
   if (mode_ == io_mode::unformatted) utils::not_implemented();
   if (mode_ == io_mode::formatted) {
     const std::string_view descriptor = next_edit_descriptor();

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "fem/descriptor.hpp"
 #include "fem/read_loop.hpp"
 
@@ -6,6 +8,7 @@ namespace fem {
 using utils::END_OF_INPUT;
 
 read_loop& read_loop::text(text_ref text) {
+  check_open();
   if (mode_ == io_mode::unformatted) {
     text_unformatted(text);
     return *this;

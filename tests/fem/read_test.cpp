@@ -170,6 +170,7 @@ TEST_F(read_test, unformatted_text_escapes_its_record_mark) {
   loop(bytes);
   EXPECT_EQ(bytes.view(), "ab\xAA");
   EXPECT_READ_END(loop(text), "End of record during unformatted read");
+  EXPECT_IO_ERR(loop(text), "read statement has ended already");
   file(std::string("ab..\xAA\xAA\xAA\0next", 12));
   { fem::read_loop(units, UNIT, fem::io_mode::unformatted).text(text); }
   EXPECT_EQ(text.view(), "ab..");
