@@ -1,0 +1,110 @@
+#include "report/curve_marks.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tervak::report {
+namespace {
+
+constexpr double softening_share = 0.001;
+constexpr double vertical_share = 0.05;
+constexpr double vertical_length = 1e-6;
+// The file keeps nine digits: a fall or step of just the limit must not change sides by that.
+constexpr double rounding = 1e-6;
+
+double peak_of(const curve& c, const std::vector<std::size_t>& points) {
+  double peak = 0.0;
+  for (const std::size_t i : points) peak = std::max(peak, std::abs(c[i].stress));
+  return peak;
+}
+
+void find_softening(const curve& c, int side, const std::vector<std::size_t>& points, double peak,
+                    std::vector<mark>& out) {
+  mark worst{mark_kind::softening, side, 0, 0, softening_share * (1.0 + rounding)};
+  std::size_t highest = points.front();
+  bool found = false;
+  for (const std::size_t i : points) {
+    const double fall = side * (c[highest].stress - c[i].stress) / peak;
+    if (fall > worst.share) {
+      worst = {mark_kind::softening, side, highest, i, fall};
+      found = true;
+    }
+    if (fall < 0.0) highest = i;
+  }
+  if (found) out.push_back(worst);
+}
+
+void find_vertical(const curve& c, int side, const std::vector<std::size_t>& points, double peak,
+                   double length, std::vector<mark>& out) {
+  for (std::size_t a = 0; a < points.size(); ++a) {
+    const point& start = c[points[a]];
+    std::size_t to = a;
+    double step = 0.0;
+    for (std::size_t b = a + 1; b < points.size(); ++b) {
+      const point& end = c[points[b]];
+      if (std::abs(end.displacement - start.displacement) > vertical_length * length * (1.0 + rounding))
+        break;
+      if (std::abs(end.stress - start.stress) / peak <= step) continue;
+      step = std::abs(end.stress - start.stress) / peak;
+      to = b;
+    }
+    if (step < vertical_share * (1.0 - rounding)) continue;
+    out.push_back({mark_kind::vertical, side, points[a], points[to], step});
+    a = to - 1;
+  }
+}
+
+}  // namespace
+
+std::size_t origin_of(const curve& c) {
+  const auto nearer = [](const point& a, const point& b) {
+    return std::abs(a.displacement) < std::abs(b.displacement);
+  };
+  return static_cast<std::size_t>(std::min_element(c.begin(), c.end(), nearer) - c.begin());
+}
+
+std::vector<std::size_t> outward(const curve& c, int side) {
+  std::vector<std::size_t> points;
+  if (c.empty()) return points;
+  const std::size_t origin = origin_of(c);
+  for (std::size_t i = 0; side > 0 ? origin + i < c.size() : i <= origin; ++i)
+    points.push_back(side > 0 ? origin + i : origin - i);
+  return points;
+}
+
+std::vector<mark> find_marks(const curve& c, double length) {
+  if (std::all_of(c.begin(), c.end(), [](const point& p) { return p.stress == 0.0; })) return {mark{}};
+  std::vector<mark> out;
+  for (const int side : {1, -1}) {
+    const std::vector<std::size_t> points = outward(c, side);
+    const double peak = peak_of(c, points);
+    if (peak == 0.0) continue;
+    find_softening(c, side, points, peak, out);
+    find_vertical(c, side, points, peak, length, out);
+  }
+  return out;
+}
+
+double shape_end(const curve& c, int side) {
+  const std::vector<std::size_t> points = outward(c, side);
+  const double peak = peak_of(c, points);
+  if (peak == 0.0) return 0.0;
+  const double near_flat = 0.1 * peak;
+  const auto size = [&](std::size_t i) { return std::abs(c[points[i]].displacement); };
+  const auto stress = [&](std::size_t i) { return c[points[i]].stress; };
+  std::size_t last = points.size() - 1;
+  double low = stress(last), high = low;
+  for (std::size_t i = last; i > 0; --i) {
+    low = std::min(low, stress(i));
+    high = std::max(high, stress(i));
+    const bool flat = std::max(high - stress(i - 1), stress(i - 1) - low) <= near_flat;
+    if (flat && size(i - 1) > 0.0 && size(i) >= 100.0 * size(i - 1)) {
+      last = i - 1;
+      break;
+    }
+  }
+  while (last > 0 && stress(last) == stress(last - 1)) --last;
+  return size(last);
+}
+
+}  // namespace tervak::report

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tervak::report {
+
+/// A linear axis. The labels are the decimal texts of the ticks.
+struct axis {
+  double low = 0.0;
+  double high = 1.0;
+  std::vector<std::string> ticks;
+  std::string title;
+  bool reversed = false;  // low at the top, as for levels that grow downward
+};
+
+/// An axis from `low` to `high` with four to nine round ticks. Equal ends are moved apart.
+axis make_axis(double low, double high, std::string title);
+
+/// Width and height of a plot and its margins, in units of the drawing.
+struct plot_box {
+  double width, height, left, right, top, bottom;
+};
+/// Of a layer's curves. The page's script draws into the same.
+inline constexpr plot_box curve_box = {470, 380, 66, 10, 10, 42};
+/// Over depth, the values' axis on top.
+inline constexpr plot_box depth_box = {360, 430, 52, 12, 42, 10};
+
+/// Lines and markers that differ without colour: four dashes, four shapes, then the same shapes filled.
+struct line_style {
+  std::string dash;
+  std::string marker;  // path from its centre
+  std::string fill;
+};
+line_style style_of(std::size_t index);
+/// A short sample of a style, for legends.
+std::string style_sample(std::size_t index);
+
+struct plot_line {
+  std::size_t style = 0;
+  std::vector<std::pair<double, double>> points;  // x, y
+  std::size_t marker_step = 1;                    // a marker at every n-th point, and at the first
+};
+
+/// A shaded band across the plot, or a line with a text where low == high.
+struct plot_band {
+  double low, high;
+  std::string text;
+};
+
+struct plot_note {
+  double x, y;
+  std::string text;
+};
+
+struct plot {
+  std::string title = {};  // read out in place of the drawing
+  plot_box box = curve_box;
+  bool x_on_top = false;
+  axis x = {};
+  axis y = {};
+  std::vector<plot_band> bands = {};
+  std::vector<plot_line> lines = {};
+  std::vector<plot_note> notes = {};
+};
+
+/// The part of a line between two x values, its ends interpolated. Far points would else make lines of a
+/// million units.
+std::vector<std::pair<double, double>> clip_to(const std::vector<std::pair<double, double>>& points,
+                                               double low, double high);
+
+std::string svg(const plot& p);
+
+}  // namespace tervak::report
