@@ -144,12 +144,13 @@ TEST_F(interface_file, CurveRecordsCarryTheExtremesOfAllSlots) {
   cmn.NPYPNT(1, 1) = 0;
   cmn.PYDSP(2, 1, 1) = cmn.PYDSP(1, 1, 1);  // an infinite slope
   cmn.NTZPNT(1, 1) = 2;
-  cmn.TZSTR(1, 1, 1) = cmn.TZSTR(2, 1, 1) = -0.0;
-  cmn.TZDSP(2, 1, 1) = cmn.TZDSP(1, 1, 1);  // 0 / 0, which is passed over
+  cmn.TZSTR(1, 1, 1) = -0.0;
+  cmn.TZSTR(28, 1, 1) = cmn.TZSTR(29, 1, 1);
+  cmn.TZDSP(28, 1, 1) = cmn.TZDSP(29, 1, 1);  // 0 / 0, which is passed over
   for (int P = 2; P <= 29; ++P) cmn.QZSTR(P, 1, 1) = cmn.QZSTR(P - 1, 1, 1) - 1.0;  // falls throughout
   const lines_of_text all = write();
   EXPECT_EQ(find(all, "RVSOILPY"), fields({8, 7, 1, 1, 1400, INF, 1, 0}));
-  EXPECT_EQ(find(all, "RVSOILTZ"), fields({12, 7, 1, 1, 140, 1000, -120, 2, -0.0, -0.14, -0.0, -0.14}));
+  EXPECT_EQ(find(all, "RVSOILTZ"), fields({12, 7, 1, 1, 140, 1000, -130, 2, -0.0, -0.14, -130, -0.13}));
   const std::string qz = find(all, "RVSOILQZ");
   ASSERT_EQ(qz.size(), 66u * 16u);
   EXPECT_EQ(qz.substr(0, 160), fields({66, 7, 1, 1, -14000, 0, -14028, 29, -14000, -0.14}));

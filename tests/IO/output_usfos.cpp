@@ -98,12 +98,12 @@ TEST_F(usfos_export, BothFilesOfAProfile) {
 
 TEST_F(usfos_export, SkinForceLevelsAndSmallFactors) {
   make_profile({2.0}, 1);
-  cmn.ZSEAFL = -5.0;
+  cmn.ZSEAFL = 5.0;
   cmn.ZBOTM(1) = 7.0;
   int IERR = 0;
   G2USFOS(cmn, cmn.DIAM, 1.0, 0.0005, 2, 9, IERR);
   const lines_of_text all = unit("09");
-  EXPECT_EQ(all[2], " SOILCHAR    2000      1   0.500E+01   0.200E+01   0.100E+01   0.500E-03");
+  EXPECT_EQ(all[2], " SOILCHAR    2000      1  -0.500E+01   0.200E+01   0.100E+01   0.500E-03");
   EXPECT_EQ(all[5], BLANK20 + "        0.00       -2.00   2000011   2000012   2000013");
   // Behind the P-Y curve of 29 points: 2 * 3.14159 * -140.
   EXPECT_EQ(rows(all, 38, 2), " ELPLCURV   2000012|" + BLANK25 + "   -8.79645E+02   -1.40000E-01");

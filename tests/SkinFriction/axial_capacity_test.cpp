@@ -110,6 +110,9 @@ TEST_F(AxialCapacity, BelowTheTipCountsAsAtTheTip) {
   make("NGI-05", SAND);
   cmn.ZNOW(1) = 31;
   expect("NGI", 84.025606, 64.635082, 6730.7692);
+  make("ICP-05", SAND);
+  cmn.ZNOW(1) = 31;
+  expect("ICP sand", 185.951554, 134.532674, 3222.21950);
   make("ICP-05", CLAY);
   cmn.ZNOW(1) = 31;
   expect("ICP: ratio 8", 40.113079, 40.113079, 8000);

@@ -88,6 +88,8 @@ TEST_F(SkinFriction, Sand) {
        EXACT},
       {"simplified, near the tip", icp_sand(200, 10000, 1.83, 0.05, 3, 28.5, 1, 5), tens, 70.151392,
        48.800971, EXACT},
+      {"simplified, at the tip: length ratio 4 sqrt(Ar)", icp_sand(200, 10000, 1.83, 0.05, 1, 28.5, 1, 5),
+       tens, 76.872464, 53.476499, EXACT},
       {"h / R at least 8", icp_sand(200, 10000, 1.83, 0.05, 1, 28.5), tens, 80.497916, 58.374881, EXACT},
       {"interface angle by grain size", icp_sand(200, 10000, 1.83, 0.05, 34, 0, 1, 4, 0.2), tens, 29.150397,
        21.382305, EXACT},

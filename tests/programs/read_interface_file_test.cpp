@@ -116,6 +116,8 @@ const std::vector<damage> damages = {
      "blanks in front"},
     {84, "2.00000000E+00  1.0", "1.00000000E+00  1.0",
      "T.RIF:84:41: field 3 of RVSOILPY is the number of the diameter, expected 2, found 1"},
+    {84, "2.00000000E+00  1.00000000E+00", "2.00000000E+00  3.00000000E+00",
+     "T.RIF:84:57: field 4 of RVSOILPY is the number of the layer, expected 1, found 3"},
     {142, "-1.50000000E-01", "-4.50000000E-01",
      "T.RIF:142:57: point 12 of RVSOILPY falls back: expected a displacement not below -0.4, found -0.45"},
     {136, "3.20000000E+01", "3.20000010E+01",

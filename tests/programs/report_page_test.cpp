@@ -56,6 +56,10 @@ TEST(ReportPage, TitlesAndUnits) {
   EXPECT_NE(bare.find("<title>Soil curves of a&lt;b.RIF</title>"), std::string::npos);
   EXPECT_NE(bare.find("stress p [run units]"), std::string::npos);
   EXPECT_EQ(bare.find("kN"), std::string::npos);
+  // Layer 1 lies above the scour level, so that layer 2 is the one shown.
+  EXPECT_NE(bare.find("<td class=\"text\">at or above scour level</td>"), std::string::npos);
+  EXPECT_NE(bare.find("This layer lies at or above the scour level."), std::string::npos);
+  EXPECT_NE(bare.find("<h3>Layer 2 of 3</h3>"), std::string::npos);
   const std::string named = page(file, "T.RIF", {"kN", "m"});
   EXPECT_NE(named.find("stress p [kN/m²]"), std::string::npos);
   EXPECT_EQ(named.find("run units"), std::string::npos);
