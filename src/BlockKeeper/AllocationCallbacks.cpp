@@ -13,14 +13,3 @@ void* AllocationCallbacks::New(std::size_t size) {
 void AllocationCallbacks::Delete(void* pointer) noexcept { std::free(pointer); }
 
 }  // namespace BlockKeeper
-
-void* operator new(std::size_t size) { return BlockKeeper::AllocationCallbacks::New(size); }
-void* operator new[](std::size_t size) { return BlockKeeper::AllocationCallbacks::New(size); }
-void operator delete(void* pointer) noexcept { BlockKeeper::AllocationCallbacks::Delete(pointer); }
-void operator delete[](void* pointer) noexcept { BlockKeeper::AllocationCallbacks::Delete(pointer); }
-void operator delete(void* pointer, std::size_t) noexcept {
-  BlockKeeper::AllocationCallbacks::Delete(pointer);
-}
-void operator delete[](void* pointer, std::size_t) noexcept {
-  BlockKeeper::AllocationCallbacks::Delete(pointer);
-}
