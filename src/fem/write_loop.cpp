@@ -108,7 +108,7 @@ void write_loop::act_on_op(char op, bool final) {
 
 void write_loop::act_on_control(std::string_view descriptor) {
   if (descriptor.back() == 'x')
-    pending_blanks_ += number_ahead(descriptor, 1);
+    pending_blanks_ += static_cast<std::size_t>(number_ahead(descriptor, 1));
   else if (descriptor.back() == 'p' && descriptor.front() != 's')
     scale_factor_ = number_ahead(descriptor, 1);
   else
@@ -116,7 +116,7 @@ void write_loop::act_on_control(std::string_view descriptor) {
 }
 
 void write_loop::put_pending_blanks() {
-  put_blanks(static_cast<std::size_t>(pending_blanks_));
+  put_blanks(pending_blanks_);
   pending_blanks_ = 0;
 }
 

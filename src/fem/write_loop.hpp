@@ -83,7 +83,7 @@ class write_loop {
   std::size_t column_ = 0;
   bool prev_was_string_ = false;
   int scale_factor_ = 0;
-  int pending_blanks_ = 0;
+  std::size_t pending_blanks_ = 0;
   bool dollar_seen_ = false;
   std::unique_ptr<utils::simple_ostream> out_;  ///< null once the statement has ended
   int internal_length_ = -1;                    ///< length of the text target, -1 for a unit

@@ -4,7 +4,8 @@ namespace fem::utils {
 
 int simple_istream_from_c_file::get() {
   last_ = std::fgetc(stream_);
-  if (last_ == EOF) last_ = std::ferror(stream_) != 0 ? READ_ERROR : END_OF_INPUT;
+  // Not ferror: an earlier write that failed leaves its mark on the stream.
+  if (last_ == EOF) last_ = std::feof(stream_) != 0 ? END_OF_INPUT : READ_ERROR;
   return last_;
 }
 
