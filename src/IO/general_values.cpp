@@ -26,10 +26,8 @@ void read_labels_and_scales(common& cmn, const Tervak& profile) {
 void read_counts(common& cmn, const Tervak& profile) {
   const auto& input = profile.GetTervakInputData();
   const bool revision4 = profile.GetVersion() == 4;
-  if (revision4) {
-    cmn.NUMTYP = input.NumberOfSoilTypes;
-    cmn.NUMTQZ = input.NumberOfTzQzRows;
-  }
+  if (revision4) cmn.NUMTYP = input.NumberOfSoilTypes;
+  cmn.NUMTQZ = revision4 ? input.NumberOfTzQzRows : 0;  // REV5INP counts its own rows
   cmn.NUMLAY = revision4 ? input.NumberOfLayers : input.NumberOfMainLayers;
   cmn.NUMLAYM = cmn.NUMLAY;
   cmn.NUMDSP = input.NumberOfDisplacements;

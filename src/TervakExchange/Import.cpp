@@ -24,10 +24,13 @@ namespace {
   const std::string name(file_name);
   struct stat entry {};
   errno = 0;
-  if (stat(name.c_str(), &entry) != 0 && errno == ENOENT)
+  if (lstat(name.c_str(), &entry) != 0 && errno == ENOENT)
     refuse_whole(file_name, "cannot open the deck: " + std::string(std::strerror(ENOENT)) +
                                 "; upper and lower case are two names on this file system, and the deck must "
                                 "stand under both TERVAK.INP and tervak.inp: ln -s TERVAK.INP tervak.inp");
+  if (S_ISLNK(entry.st_mode) && stat(name.c_str(), &entry) != 0)
+    refuse_whole(file_name, "cannot open the deck: it is a link to a file that cannot be reached: " +
+                                std::string(std::strerror(errno)));
   errno = 0;
   const std::ifstream again(name, std::ios::binary);
   refuse_whole(file_name,

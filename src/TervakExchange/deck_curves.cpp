@@ -49,23 +49,24 @@ void read_at(const deck_curves& curves, const deck_statement& line, Tervak& prof
   curves.records(profile).push_back(record);
 }
 
-void read_point(const deck_curves& curves, const deck_statement& line, Tervak& profile, deck_faults& faults) {
+bool read_point(const deck_curves& curves, const deck_statement& line, Tervak& profile, deck_faults& faults) {
   if (curves.records(profile).empty()) {
     faults.add(line.fields[0].place, "this row stands before the first AT of " + std::string(curves.name));
-    return;
+    return false;
   }
-  if (!row_has_shape(line, curves.name, 2, 2, faults)) return;
-  ManualCurveRecord& curve = curves.records(profile).back();
-  const std::string who(curves.name);
-  double force = 0, displacement = 0;
-  const bool good =
-      read_number(line.fields[0], who + " " + std::string(curves.force), "a number", force, faults);
-  if (!read_number(line.fields[1], who + " " + std::string(curves.displacement), "a number", displacement,
-                   faults) ||
-      !good)
-    return;
-  curve.Stresses.push_back(force);
-  curve.Displacements.push_back(displacement);
+  if (row_has_shape(line, curves.name, 2, 2, faults)) {
+    ManualCurveRecord& curve = curves.records(profile).back();
+    const std::string who = std::string(curves.name) + " ";
+    double force = 0, displacement = 0;
+    const bool good = read_number(line.fields[0], who + std::string(curves.force), "a number", force, faults);
+    if (read_number(line.fields[1], who + std::string(curves.displacement), "a number", displacement,
+                    faults) &&
+        good) {
+      curve.Stresses.push_back(force);
+      curve.Displacements.push_back(displacement);
+    }
+  }
+  return true;
 }
 
 }  // namespace Vrsk::Plin::TervakExchange

@@ -21,7 +21,7 @@ struct deck_curves {
 /// Reads an AT line, which opens a curve even when it has a fault, so that the points behind it are judged.
 void read_at(const deck_curves& curves, const deck_statement& line, Tervak& profile, deck_faults& faults);
 
-/// Reads a point into the last curve.
-void read_point(const deck_curves& curves, const deck_statement& line, Tervak& profile, deck_faults& faults);
+/// Reads a point into the last curve. False, after a fault, when there is no curve yet.
+bool read_point(const deck_curves& curves, const deck_statement& line, Tervak& profile, deck_faults& faults);
 
 }  // namespace Vrsk::Plin::TervakExchange

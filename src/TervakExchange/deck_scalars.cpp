@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "TervakExchange/deck_numbers.hpp"
 #include "TervakExchange/deck_values.hpp"
 
 namespace Vrsk::Plin::TervakExchange {
@@ -75,9 +76,7 @@ constexpr deck_scalar SCALARS[] = {
 };
 
 void read_revision(const deck_field& field, Tervak& profile, deck_faults& faults) {
-  if (field.text == "4" || field.text == "5")
-    profile.version = field.text.front() - '0';
-  else
+  if (!parse_revision(field.text, profile.version))
     faults.add(field.place, "REVISION takes 4 or 5, found " + shown(field.text));
 }
 
@@ -104,6 +103,13 @@ std::string_view expected(const deck_scalar& scalar) {
 }
 
 }  // namespace
+
+bool parse_revision(std::string_view field, Version& revision) {
+  int value = 0;
+  if (parse_integer(field, value) != number_fault::none || (value != 4 && value != 5)) return false;
+  revision = value;
+  return true;
+}
 
 std::span<const deck_scalar> deck_scalars() { return SCALARS; }
 
@@ -137,8 +143,8 @@ void read_scalar(const deck_scalar& scalar, const deck_statement& line, Tervak& 
     read_number(value, scalar.name, expected(scalar),
                 std::get<deck_scalar::number_place>(scalar.place)(profile), faults);
   if (line.fields.size() > 2 && comma_hint(value.text).empty())
-    faults.add(line.fields[2].place, takes + std::string(expected(scalar)) + ", found " +
-                                         shown(line.fields[2].text) + " behind it; comments open with \"!\"");
+    faults.add(line.fields[2].place,
+               takes + std::string(expected(scalar)) + ", found " + behind_it(line.fields[2]));
 }
 
 }  // namespace Vrsk::Plin::TervakExchange

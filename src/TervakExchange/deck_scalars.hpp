@@ -29,6 +29,9 @@ struct deck_scalar {
 /// Gives every scalar its value when left out.
 void set_standard_values(Tervak& profile);
 
+/// The value of REVISION. False when the field is neither 4 nor 5, and then the revision stays as it was.
+bool parse_revision(std::string_view field, Version& revision);
+
 /// Reads the line of a scalar. The side slope stands in degrees until the profile is complete.
 void read_scalar(const deck_scalar& scalar, const deck_statement& line, Tervak& profile, deck_faults& faults);
 

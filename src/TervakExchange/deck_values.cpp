@@ -33,6 +33,11 @@ std::string_view comma_hint(std::string_view field) {
   return "; write a decimal point or a blank, no comma";
 }
 
+std::string behind_it(const deck_field& field) {
+  const std::string_view comma = comma_hint(field.text);
+  return shown(field.text) + " behind it" + std::string(comma.empty() ? "; comments open with \"!\"" : comma);
+}
+
 bool read_number(const deck_field& field, std::string_view who, std::string_view what, double& value,
                  deck_faults& faults) {
   const number_fault fault = parse_number(field.text, value);

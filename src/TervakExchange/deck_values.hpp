@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "TervakExchange/deck_lines.hpp"
@@ -18,5 +19,8 @@ bool refuse_commas(const deck_statement& line, std::string_view who, deck_faults
 
 /// The hint behind a field that holds a comma; empty for other fields.
 [[nodiscard]] std::string_view comma_hint(std::string_view field);
+
+/// What is said of a field that stands where the line should have ended.
+[[nodiscard]] std::string behind_it(const deck_field& field);
 
 }  // namespace Vrsk::Plin::TervakExchange

@@ -72,7 +72,7 @@ void check_counts(const profile_draft& draft, deck_faults& faults) {
   for (const auto& [count, table, number] : COUNTED) {
     const keyword_use& given = draft.use(count);
     const keyword_use& rows = draft.use(table);
-    if (!given.given || given.faulty || rows.meant) continue;
+    if (!given.given || given.faulty || rows.meant || rows.cut) continue;
     const int promised = draft.profile.data.*number;
     if (promised == static_cast<int>(rows.rows)) continue;
     const std::string says = std::string(count) + " says " + std::to_string(promised);
@@ -82,10 +82,10 @@ void check_counts(const profile_draft& draft, deck_faults& faults) {
       faults.add({draft.heading_line, 1, 1}, draft.title() + " has no " + std::string(table) + ", " + says);
   }
   const keyword_use& main_layers = draft.use("MAINLAYERS");
-  if (!main_layers.given) return;
+  if (!main_layers.given || main_layers.cut) return;
   for (const std::string_view table : {"SKINFRICTION", "SUBDIVISION"}) {
     const keyword_use& use = draft.use(table);
-    if (use.given && use.rows != main_layers.rows)
+    if (use.given && !use.cut && use.rows != main_layers.rows)
       faults.add(use.place,
                  has_rows(table, use.rows) + ", MAINLAYERS has " + std::to_string(main_layers.rows));
   }
@@ -112,7 +112,8 @@ bool code_zero_used(const profile_draft& draft, int LayerRecord::*code4, int Sub
       if (record.*code5 == 0) return true;
     return false;
   }
-  const int used = draft.use("NUMLAY").given ? data.NumberOfLayers : last_layer(draft);
+  const keyword_use& count = draft.use("NUMLAY");
+  const int used = count.given && !count.faulty ? data.NumberOfLayers : last_layer(draft);
   for (const LayerRecord& record : data.Layers) {
     if (record.*code4 == 0) return true;
     if (record.LastLayer >= used) break;  // rows behind it are not used

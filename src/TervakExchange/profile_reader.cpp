@@ -53,9 +53,7 @@ void profile_reader::find_revision() {
 }
 
 void profile_reader::take_revision(const deck_statement& line) {
-  if (line.fields.size() < 2) return;
-  const std::string_view value = line.fields[1].text;
-  if (value == "4" || value == "5") draft_.profile.version = value.front() - '0';
+  if (line.fields.size() > 1) parse_revision(line.fields[1].text, draft_.profile.version);
 }
 
 void profile_reader::refuse_missing_heading() {
@@ -103,9 +101,9 @@ void profile_reader::read_keyword(const deck_statement& line) {
                                 ", this profile is revision " + std::to_string(version));
     return;
   }
-  if (name == "REVISION" && !first)
-    faults_.add(word.place, "REVISION comes first, right behind the heading of its profile");
   keyword_use& use = draft_.use(*keyword);
+  if (name == "REVISION" && !first && !use.given)
+    faults_.add(word.place, "REVISION comes first, right behind the heading of its profile");
   Tervak* target = &draft_.profile;
   if (use.given && name != "DIAM") {
     target = &discarded_;
@@ -143,21 +141,21 @@ void profile_reader::open(const deck_keyword& keyword, const deck_statement& lin
   rows_ = rows::read;
   target_ = &target;
   if (line.fields.size() > 1)
-    faults_.add(line.fields[1].place, std::string(keyword.name) + " stands alone on its line, found " +
-                                          shown(line.fields[1].text) +
-                                          " behind it; comments open with \"!\"");
+    faults_.add(line.fields[1].place,
+                std::string(keyword.name) + " stands alone on its line, found " + behind_it(line.fields[1]));
   if (const auto* curves = std::get_if<const deck_curves*>(&keyword.what))
     if (bool* flag = (*curves)->flag(target)) *flag = true;
 }
 
 void profile_reader::read_at_line(const deck_statement& line) {
-  first_ = false;
   if (!in_curves()) {
     if (rows_ == rows::passed_over) return;
     faults_.add(line.fields[0].place, "AT opens a curve; it stands only behind the name of a curve table");
-    rows_ = rows::of_stray_at;
+    if (rows_ == rows::read) draft_.use(*open_).cut = draft_.use(*open_).faulty = true;
+    rows_ = rows::passed_over;
     return;
   }
+  rows_ = rows::read;
   if (target_ == &draft_.profile) ++draft_.use(*open_).curves;
   const std::size_t faults = faults_.count();
   read_at(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_);
@@ -182,8 +180,8 @@ void profile_reader::read_open_row(const deck_statement& line) {
                                           " stands behind a row whose L1 is 0, which closes the list");
   else if (const auto* table = std::get_if<const deck_table*>(&open_->what))
     closed_ = (*table)->read_row(line, *target_, faults_);
-  else
-    read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_);
+  else if (!read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_))
+    rows_ = rows::before_at;
   if (faults_.count() != faults) use.faulty = true;
 }
 

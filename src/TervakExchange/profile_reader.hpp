@@ -13,6 +13,7 @@ struct keyword_use {
   bool given = false;
   bool meant = false;      ///< not given, but a misspelt word most likely means it
   bool faulty = false;     ///< its line or one of its rows has a fault, so that its values are not all known
+  bool cut = false;        ///< a stray AT took the rows behind it, so that they are not all counted
   deck_place place;        ///< of the keyword
   std::size_t curves = 0;  ///< AT lines behind it
   std::size_t rows = 0;    ///< rows behind it, faulty ones too
@@ -48,8 +49,8 @@ class profile_reader {
   enum class rows {
     refused,      ///< no table is open
     read,         ///< into the table or the curves of `open_`
+    before_at,    ///< points in front of the first AT: told once, for the first of them
     passed_over,  ///< behind a keyword line that is at fault itself
-    of_stray_at
   };
 
   void find_revision();
@@ -63,7 +64,8 @@ class profile_reader {
   void read_row(const deck_statement& line);
   void read_open_row(const deck_statement& line);
   [[nodiscard]] bool in_curves() const {
-    return rows_ == rows::read && std::holds_alternative<const deck_curves*>(open_->what);
+    return (rows_ == rows::read || rows_ == rows::before_at) &&
+           std::holds_alternative<const deck_curves*>(open_->what);
   }
 
   const std::vector<std::string_view>& lines_;

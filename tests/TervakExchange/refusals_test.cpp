@@ -55,6 +55,10 @@ TEST(DeckRefusals, Revision) {
       {{2, "REVISION 6\n", "2:10: REVISION takes 4 or 5, found \"6\"\n"},
        {2, "REVISION\n", "2:1: REVISION takes 4 or 5, found none\n"},
        {2, "REVISION 5 4\n", "2:12: REVISION takes 4 or 5, found \"4\"" BEHIND_IT},
+       {2, "REVISION +5\n", "accepted\n"},
+       {3, "GAMWAT 1\nREVISION 5\n", "4:1: REVISION stands twice in this profile, first on line 2\n"},
+       {2, "AT 1 1\nREVISION 5\n",
+        "2:1: AT opens a curve; it stands only behind the name of a curve table\n"},
        {2, "", TITLE5 + "no REVISION\n"},
        {2, "SFSU 1\nREVISION 5\n", "3:1: REVISION comes first, right behind the heading of its profile\n"},
        {1, "", "1:1: profile 1 has no heading, found REVISION; the first line of a deck is free text\n"},
@@ -73,18 +77,21 @@ TEST(DeckRefusals, Revision) {
 }
 
 TEST(DeckRefusals, Keywords) {
-  expect_all(REVISION5,
-             {{7, "DAIM 1.2\n", "7:1: unknown keyword \"DAIM\"; did you mean DIAM?\n"},
-              {18, "MAINLAYER\n", "18:1: unknown keyword \"MAINLAYER\"; did you mean MAINLAYERS?\n"},
-              {3, "GAMWAT=10.1\n", "3:1: unknown keyword \"GAMWAT=10.1\"; did you mean GAMWAT?\n"},
-              {3, "GAMWAT, 10.1\n", "3:1: unknown keyword \"GAMWAT,\"" NO_COMMA},
-              {3, "GAMWAT 1\nNUMLAYN 1\n", "4:1: unknown keyword \"NUMLAYN\"; did you mean NUMLAYM?\n"},
-              {3, "GAMWAT 1\nsomething else\n", "4:1: unknown keyword \"something\"\n"},
-              {3, "GAMWAT 1\n#x\n *\n/\n,5\n",
-               "4:1: a line cannot begin with \"#\"\n"
-               "5:2: a line cannot begin with \"*\"; a comment has its * in column 1\n"
-               "6:1: a line cannot begin with \"/\"\n"
-               "7:1: a line cannot begin with \",\"" NO_COMMA}});
+  expect_all(
+      REVISION5,
+      {{7, "DAIM 1.2\n", "7:1: unknown keyword \"DAIM\"; did you mean DIAM?\n"},
+       {18, "MAINLAYER\n", "18:1: unknown keyword \"MAINLAYER\"; did you mean MAINLAYERS?\n"},
+       {3, "GAMWAT=10.1\n", "3:1: unknown keyword \"GAMWAT=10.1\"; did you mean GAMWAT?\n"},
+       {3, "GAMWAT, 10.1\n", "3:1: unknown keyword \"GAMWAT,\"" NO_COMMA},
+       {3, "GAMWAT 10 ,1\n", "3:11: GAMWAT takes one number, found \",1\" behind it" NO_COMMA},
+       {18, "MAINLAYERS ,\n", "18:12: MAINLAYERS stands alone on its line, found \",\" behind it" NO_COMMA},
+       {3, "GAMWAT 1\nNUMLAYN 1\n", "4:1: unknown keyword \"NUMLAYN\"; did you mean NUMLAYM?\n"},
+       {3, "GAMWAT 1\nsomething else\n", "4:1: unknown keyword \"something\"\n"},
+       {3, "GAMWAT 1\n#x\n *\n/\n,5\n",
+        "4:1: a line cannot begin with \"#\"\n"
+        "5:2: a line cannot begin with \"*\"; a comment has its * in column 1\n"
+        "6:1: a line cannot begin with \"/\"\n"
+        "7:1: a line cannot begin with \",\"" NO_COMMA}});
   expect_all(REVISION4,
              {{3, "MIDBOT 1\nNUMLAYN 12\n", "4:1: unknown keyword \"NUMLAYN\"; did you mean NUMLAY?\n"}});
 }
@@ -145,14 +152,17 @@ TEST(DeckRefusals, Tables) {
 
 TEST(DeckRefusals, Curves) {
   const std::string unused = ": MANUALTZ is not used, no layer has the T-Z code 0\n";
-  expect_all(REVISION4,
-             {{3, "MIDBOT 1\nMANUALPY\nAT 5 1\n0 0\n", "accepted\n"},
-              {3, "MIDBOT 1\nNUMLAY 4\nMANUALPY\nAT 5 1\n0 0\n",  // code 0 stands behind the layers in use
-               "5:1: MANUALPY is not used, no layer has the P-Y code 0\n"},
-              {3, "MIDBOT 1\nMANUALTZ\nAT 1 1\n0 0\n", "4:1" + unused}});
+  expect_all(
+      REVISION4,
+      {{3, "MIDBOT 1\nMANUALPY\nAT 5 1\n0 0\n", "accepted\n"},
+       {3, "MIDBOT 1\nNUMLAY 4\nMANUALPY\nAT 5 1\n0 0\n",  // code 0 stands behind the layers in use
+        "5:1: MANUALPY is not used, no layer has the P-Y code 0\n"},
+       {3, "MIDBOT 1\nNUMLAY 4.\nMANUALPY\nAT 5 1\n0 0\n",  // a faulty NUMLAY says nothing about the codes
+        "4:8: NUMLAY takes one integer, found \"4.\"" NO_POINT},
+       {3, "MIDBOT 1\nMANUALTZ\nAT 1 1\n0 0\n", "4:1" + unused}});
   expect_all(REVISION5,
              {{3, "GAMWAT 1\nMANUALTZ\nAT 1 1\n", "4:1" + unused},
-              {3, "GAMWAT 1\nMANUALBSY\n1 2\nSFSU 1\n",
+              {3, "GAMWAT 1\nMANUALBSY\n1 2\n2 3\nSFSU 1\n",
                "4:1: MANUALBSY has no curve; AT, a layer and a diameter open one\n"
                "5:1: this row stands before the first AT of MANUALBSY\n"},
               {3, "GAMWAT 1\nMANUALBSY\nAT 1.0 x\n1 y\n1 2 3\nAT 1\nAT 1,2\n",
@@ -162,6 +172,11 @@ TEST(DeckRefusals, Curves) {
                "7:1: MANUALBSY row takes 2 fields, found 3\n"
                "8:1: AT takes a layer and a diameter, found 1 field behind it\n"
                "9:4: AT takes numbers parted by blanks, found \"1,2\"" NO_COMMA},
+              {3, "GAMWAT 1\nMANUALBSY\n1 2\n2 3\nAT 1 1\n1 2 3\n",
+               "5:1: this row stands before the first AT of MANUALBSY\n"
+               "8:1: MANUALBSY row takes 2 fields, found 3\n"},
+              {19, "AT 1 1.2\n1 30.5 18.1 12 20 35 0.7 21 45 31 0.01 0.25 99\n",
+               "19:1: AT opens a curve; it stands only behind the name of a curve table\n"},
               {18, "AT 1 1.2\n0 0\nMAINLAYERS\n",
                "18:1: AT opens a curve; it stands only behind the name of a curve table\n"},
               {3, "GAMWAT 1\nMODIFYBSY\n1 1 1 1 1\nMODIFYMTHETA\nMODIFYBMTHETA\nMANUALBMTHETA\nAT 1 1\n",

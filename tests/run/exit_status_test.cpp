@@ -1,5 +1,6 @@
 // The ways in which a run ends: exit status, last line of the run log, files left behind.
 
+#include <filesystem>
 #include <sstream>
 #include <vector>
 
@@ -105,6 +106,11 @@ TEST(ExitStatus, ADeckUnderOneNameIsAnsweredWithTheCure) {
   EXPECT_NE(log.find("tervak.inp:1:1: "), std::string::npos) << log;
   EXPECT_NE(log.find("ln -s TERVAK.INP tervak.inp"), std::string::npos);
   EXPECT_FALSE(directory.has("TERVAK.RIF"));
+  // Where the link stands already, making it again is no cure.
+  std::filesystem::create_symlink("gone.inp", directory / "tervak.inp");
+  EXPECT_EQ(directory.run(), 1);
+  EXPECT_NE(directory.read("TERVAK.MLG").find("it is a link to a file that cannot be reached"),
+            std::string::npos);
 }
 
 TEST(ExitStatus, ThePrintLevelSaysWhatTheListingHolds) {
