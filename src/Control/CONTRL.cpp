@@ -83,6 +83,10 @@ bool import_deck(common& cmn) {
   try {
     std::ifstream deck("tervak.inp", std::ios::binary);
     cmn.PROFILES.Import(deck, "m", "N");
+    if (!same_content("TERVAK.INP", "tervak.inp"))
+      remark(
+          cmn,
+          "(/,' ---- Warning from SR/CONTRL : TERVAK.INP differs from tervak.inp, which is the deck of this run')");
     return true;
   } catch (const std::exception& refusal) {
     fail(cmn, 1, "(A)", refusal.what());

@@ -87,8 +87,9 @@ class page_image {
   page_image() : rows_(ROWS, std::string(COLUMNS, ' ')) {}
 
   void put(std::size_t row, std::size_t column, std::string_view text) {
-    for (std::size_t i = 0; i < text.size() && column - 1 + i < COLUMNS; ++i)
-      rows_.at(row - 1)[column - 1 + i] = text[i];
+    // A text of 80 characters that is centred on column 40 begins left of column 1.
+    for (std::size_t i = column == 0 ? 1 : 0; i < text.size() && column + i <= COLUMNS; ++i)
+      rows_.at(row - 1)[column + i - 1] = text[i];
   }
   void frame(std::size_t top, std::size_t bottom, std::size_t left, std::size_t right) {
     put(top, left, std::string(right - left + 1, '*'));

@@ -1,6 +1,9 @@
 #include "Control/run_files.hpp"
 
+#include <algorithm>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "fem/file_positioning_chain.hpp"
@@ -21,6 +24,12 @@ void open_run_file(common& cmn, int unit, const char* name, const char* status) 
       .access("SEQUENTIAL")
       .iostat(&cmn.IERR)
       .finish();
+}
+
+bool same_content(const char* one, const char* other) {
+  std::ifstream a(one, std::ios::binary), b(other, std::ios::binary);
+  using bytes = std::istreambuf_iterator<char>;
+  return std::equal(bytes(a), bytes(), bytes(b), bytes());
 }
 
 void close_run_files(common& cmn) {

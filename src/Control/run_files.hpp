@@ -12,6 +12,10 @@ void rotate(const char* name);
 /// failure remains visible through later opens.
 void open_run_file(common& cmn, int unit, const char* name, const char* status);
 
+/// Whether two files hold the same bytes. The deck stands under two names, and one may be a copy that was
+/// forgotten when the other was edited.
+[[nodiscard]] bool same_content(const char* one, const char* other);
+
 /// Closes the units of the run at its end and deletes the runtime's temporary files.
 void close_run_files(common& cmn);
 

@@ -13,7 +13,14 @@ bool is_comment(std::string_view line) { return line[0] == '*' || line[0] == 'C'
 
 void copy_lines(common& cmn) {
   for (int count = 1;; ++count) {
-    const auto line = read_line<120>(cmn, cmn.NFINP, "(a120)");
+    fem::fixed_text<120> line;
+    try {
+      line = read_line<120>(cmn, cmn.NFINP, "(a120)");
+    } catch (const fem::read_end&) {
+      return;
+    } catch (const fem::io_err&) {
+      return;
+    }
     if (line.view().substr(0, 3) == "END") return;
     if (count > 1 && is_comment(line.view())) continue;
     fem::write(cmn.units, cmn.NFTMP, "(a120)", line);
@@ -26,11 +33,7 @@ void copy_deck(common& cmn) {
   fem::rewind(cmn.units, cmn.NFINP);
   // Nobody opens NFTMP: the first use of the unit makes a file of the runtime's own name.
   fem::rewind(cmn.units, cmn.NFTMP);
-  try {
-    copy_lines(cmn);
-  } catch (const fem::read_end&) {
-  } catch (const fem::io_err&) {
-  }
+  copy_lines(cmn);
   fem::rewind(cmn.units, cmn.NFTMP);
 }
 

@@ -53,25 +53,27 @@ const deck_keyword* find_keyword(std::string_view word) {
   return nullptr;
 }
 
-const deck_keyword* nearest_keyword(std::string_view word, int revision) {
+nearest_keyword find_nearest(std::string_view word, int revision) {
   constexpr std::size_t LONGEST = 30;  // a line of a million letters is no misspelt keyword
   const auto end = std::find_if_not(word.begin(), word.end(), is_word_character);
   const auto head = word.substr(0, static_cast<std::size_t>(end - word.begin()));
-  if (const deck_keyword* meant = find_keyword(head)) return meant;  // "GAMWAT=10.05"
-  if (word.size() > LONGEST) return nullptr;
+  if (const deck_keyword* meant = find_keyword(head)) return {meant, true};  // "GAMWAT=10.05"
+  if (word.size() > LONGEST) return {};
 
   std::string upper(word);
   for (char& c : upper)
     if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  const deck_keyword* nearest = nullptr;
+  nearest_keyword nearest;
   std::size_t least = 0;
   for (const deck_keyword& keyword : deck_keywords()) {
     const std::size_t distance = edit_distance(upper, keyword.name);
-    if (distance > std::max(upper.size(), keyword.name.size()) / 2) continue;
-    const bool better = !nearest || distance < least ||
-                        (distance == least && keyword.belongs_to(revision) && !nearest->belongs_to(revision));
-    if (!better) continue;
-    nearest = &keyword;
+    const std::size_t longest = std::max(upper.size(), keyword.name.size());
+    if (distance > longest / 2) continue;
+    const bool belongs = keyword.belongs_to(revision);
+    const auto* best = nearest.keyword;
+    if (best && (belongs == best->belongs_to(revision) ? distance >= least : !belongs)) continue;
+    const bool begins = upper.starts_with(keyword.name) || keyword.name.starts_with(upper);
+    nearest = {&keyword, begins || distance <= longest / 4};
     least = distance;
   }
   return nearest;

@@ -27,8 +27,13 @@ struct deck_keyword {
 /// The keyword in either case of its letters, or null.
 [[nodiscard]] const deck_keyword* find_keyword(std::string_view word);
 
-/// The keyword that a misspelt word most likely means, or null when none is near. Of equally near ones, one
-/// of the profile's revision (0 = unknown).
-[[nodiscard]] const deck_keyword* nearest_keyword(std::string_view word, int revision);
+struct nearest_keyword {
+  const deck_keyword* keyword = nullptr;  ///< null when none is near
+  bool sure = false;                      ///< the word means it; otherwise it is a guess
+};
+
+/// The keyword that is nearest to a misspelt word, one of the profile's revision (0 = unknown) before one of
+/// the other.
+[[nodiscard]] nearest_keyword find_nearest(std::string_view word, int revision);
 
 }  // namespace Vrsk::Plin::TervakExchange

@@ -77,7 +77,8 @@ constexpr deck_scalar SCALARS[] = {
 
 void read_revision(const deck_field& field, Tervak& profile, deck_faults& faults) {
   if (!parse_revision(field.text, profile.version))
-    faults.add(field.place, "REVISION takes 4 or 5, found " + shown(field.text));
+    faults.add(field.place,
+               "REVISION takes 4 or 5, found " + shown(field.text) + std::string(comma_hint(field.text)));
 }
 
 /// The text behind the keyword, to the end of the line or to a comment.
@@ -142,7 +143,8 @@ void read_scalar(const deck_scalar& scalar, const deck_statement& line, Tervak& 
   else
     read_number(value, scalar.name, expected(scalar),
                 std::get<deck_scalar::number_place>(scalar.place)(profile), faults);
-  if (line.fields.size() > 2 && comma_hint(value.text).empty())
+  const bool sign = value.text == "=" || value.text == ":";  // told with the sign
+  if (line.fields.size() > 2 && comma_hint(value.text).empty() && !sign)
     faults.add(line.fields[2].place,
                takes + std::string(expected(scalar)) + ", found " + behind_it(line.fields[2]));
 }

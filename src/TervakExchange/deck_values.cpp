@@ -19,6 +19,8 @@ void refuse(const deck_field& field, std::string_view who, std::string_view what
 std::string_view hint_for(std::string_view field, bool integer) {
   double value = 0;
   if (!comma_hint(field).empty()) return comma_hint(field);
+  if (field.front() == '=' || field.front() == ':')
+    return "; only blanks stand between a keyword and its value";
   if (integer && parse_number(field, value) == number_fault::none)
     return "; an integer takes no point and no exponent";
   if (std::any_of(field.begin(), field.end(), [](char c) { return static_cast<unsigned char>(c) > 0x7F; }))

@@ -1,5 +1,6 @@
 #include "TervakExchange/profile_checks.hpp"
 
+#include <algorithm>
 #include <string>
 
 #include "Measures/units.hpp"
@@ -94,11 +95,21 @@ void check_counts(const profile_draft& draft, deck_faults& faults) {
 void check_layer_count(const profile_draft& draft, deck_faults& faults) {
   const keyword_use& count = draft.use("NUMLAY");
   const keyword_use& layers = draft.use("LAYERS");
-  if (!count.given || count.faulty || !layers.given || layers.faulty) return;
+  if (count.faulty || !layers.given || layers.faulty) return;
+  const int last = last_layer(draft);
   const int promised = draft.profile.data.NumberOfLayers;
-  if (promised > last_layer(draft))
-    faults.add(layers.place, "LAYERS ends at layer " + std::to_string(last_layer(draft)) + ", NUMLAY says " +
-                                 std::to_string(promised));
+  if (count.given && promised > last)
+    faults.add(layers.place,
+               "LAYERS ends at layer " + std::to_string(last) + ", NUMLAY says " + std::to_string(promised));
+  if (count.given) return;
+  // The rows behind the first one that reaches the last layer would not be used, and nobody asked for that.
+  const auto& rows = draft.profile.data.Layers;
+  const auto reaches = [last](const LayerRecord& row) { return row.LastLayer >= last; };
+  const auto first = std::find_if(rows.begin(), rows.end(), reaches);
+  if (first != rows.end() && first + 1 != rows.end())
+    faults.add(layers.place, "LAYERS reaches its last layer, " + std::to_string(last) + ", in row " +
+                                 std::to_string(first - rows.begin() + 1) + " of " +
+                                 std::to_string(rows.size()) + "; the L2 ascend from row to row");
 }
 
 /// Whether some layer has the code 0. True also when the codes are not known.
@@ -124,12 +135,12 @@ bool code_zero_used(const profile_draft& draft, int LayerRecord::*code4, int Sub
 void check_curves(const profile_draft& draft, deck_faults& faults) {
   for (const deck_curves& curves : deck_curves_tables()) {
     const keyword_use& use = draft.use(curves.name);
-    if (use.given && use.curves == 0)
+    if (use.given && use.curves == 0 && !use.cut)
       faults.add(use.place, std::string(curves.name) + " has no curve; AT, a layer and a diameter open one");
   }
   for (const auto& [curves, family, code4, code5] : FAMILIES) {
     const keyword_use& use = draft.use(curves);
-    if (use.given && !code_zero_used(draft, code4, code5))
+    if (use.given && use.curves > 0 && !code_zero_used(draft, code4, code5))
       faults.add(use.place,
                  std::string(curves) + " is not used, no layer has the " + std::string(family) + " code 0");
   }
@@ -144,6 +155,10 @@ void check_curves(const profile_draft& draft, deck_faults& faults) {
 }  // namespace
 
 void check_profile(const profile_draft& draft, deck_faults& faults) {
+  if (draft.empty)
+    return faults.add({draft.heading_line, 1, 1}, draft.title() +
+                                                      " has nothing behind its heading; at the end of a "
+                                                      "deck stands END, and no text behind it");
   check_missing(draft, faults);
   check_counts(draft, faults);
   check_layer_count(draft, faults);

@@ -39,7 +39,10 @@ profile_draft profile_reader::read() {
   refuse_missing_heading();
   for (std::size_t number = range_.first; number < range_.behind_last; ++number) {
     const deck_statement line = split_fields(lines_[number - 1], number);
-    if (!line.fields.empty()) read_line(line);
+    if (line.fields.empty()) continue;
+    draft_.empty = false;
+    read_line(line);
+    if (end_missing_) break;
   }
   return std::move(draft_);
 }
@@ -72,6 +75,7 @@ void profile_reader::refuse_missing_heading() {
 }
 
 void profile_reader::read_line(const deck_statement& line) {
+  behind_unknown_ = std::exchange(unknown_, false);
   const char first = line.fields[0].text.front();
   if (is_letter(first)) return read_keyword(line);
   if (opens_number(first)) return read_row(line);
@@ -81,14 +85,23 @@ void profile_reader::read_line(const deck_statement& line) {
   if (first == '*') text += "; a comment has its * in column 1";
   if (!comma_hint(word.text).empty()) text += comma_hint(word.text);
   faults_.add({word.place.line, word.place.column, character.size()}, std::move(text));
+  unknown_ = true;
+  // Without that character it may be a keyword, or a row.
+  const std::string_view rest = word.text.substr(character.size());
+  if (const deck_keyword* keyword =
+          find_keyword(rest.empty() && line.fields.size() > 1 ? line.fields[1].text : rest))
+    draft_.use(*keyword).meant = true;
+  else if (rows_ == rows::read)
+    lose_rows();
 }
 
 void profile_reader::read_keyword(const deck_statement& line) {
   const deck_field& word = line.fields[0];
   if (same_word(word.text, "AT")) return read_at_line(line);
   const deck_keyword* keyword = find_keyword(word.text);
-  const bool first = std::exchange(first_, false);
   if (!keyword) return read_unknown(line);
+  const bool first = std::exchange(first_, false);
+  if (rows_ == rows::read) interrupted_ = open_;
   open_ = keyword;
   open_line_ = word.place.line;
   closed_ = false;
@@ -108,8 +121,12 @@ void profile_reader::read_keyword(const deck_statement& line) {
   if (use.given && name != "DIAM") {
     target = &discarded_;
     discarded_ = Tervak{};
+    use.cut = true;
+    // What is no keyword, and then REVISION: a heading. What follows belongs to the next profile.
+    end_missing_ = name == "REVISION" && behind_unknown_;
     faults_.add(word.place,
-                name + " stands twice in this profile, first on line " + std::to_string(use.place.line));
+                name + " stands twice in this profile, first on line " + std::to_string(use.place.line) +
+                    (end_missing_ ? "; is END missing above the heading of the next profile?" : ""));
   } else if (!use.given) {
     use.given = true;
     use.place = word.place;
@@ -122,15 +139,28 @@ void profile_reader::read_keyword(const deck_statement& line) {
 void profile_reader::read_unknown(const deck_statement& line) {
   const deck_field& word = line.fields[0];
   std::string text = "unknown keyword " + shown(word.text);
-  const deck_keyword* meant = nearest_keyword(word.text, draft_.profile.version);
+  const bool at = in_curves() && same_word(word.text.substr(0, 2), "AT");
+  const nearest_keyword nearest = at ? nearest_keyword{} : find_nearest(word.text, draft_.profile.version);
   if (!comma_hint(word.text).empty())
     text += comma_hint(word.text);
-  else if (meant)
-    text += "; did you mean " + std::string(meant->name) + "?";
-  // One mistake, one fault: what the word most likely means is not missing too, and its rows are passed over.
-  if (meant) draft_.use(*meant).meant = true;
+  else if (at || nearest.keyword)
+    text += "; did you mean " + std::string(at ? "AT" : nearest.keyword->name) + "?";
+  // One mistake, one fault: what the word means is not missing too, and the rows behind it are passed over.
+  if (nearest.sure) draft_.use(*nearest.keyword).meant = true;
+  if (rows_ == rows::read || rows_ == rows::before_at) {
+    interrupted_ = open_;
+    // A row that begins with a letter, or a misspelt AT, and no keyword
+    if (at || (!nearest.sure && line.fields.size() > 2)) lose_rows();
+  }
   rows_ = rows::passed_over;
+  unknown_ = true;
   faults_.add(word.place, std::move(text));
+}
+
+/// Rows of the table that is, or was, open do not reach it: what it lacks now is no fault of its own.
+void profile_reader::lose_rows() {
+  const deck_keyword* table = rows_ == rows::read || rows_ == rows::before_at ? open_ : interrupted_;
+  if (table) draft_.use(*table).cut = draft_.use(*table).faulty = true;
 }
 
 void profile_reader::open(const deck_keyword& keyword, const deck_statement& line, Tervak& target) {
@@ -139,6 +169,7 @@ void profile_reader::open(const deck_keyword& keyword, const deck_statement& lin
     return read_scalar(**scalar, line, target, faults_);
   }
   rows_ = rows::read;
+  interrupted_ = nullptr;
   target_ = &target;
   if (line.fields.size() > 1)
     faults_.add(line.fields[1].place,
@@ -151,7 +182,7 @@ void profile_reader::read_at_line(const deck_statement& line) {
   if (!in_curves()) {
     if (rows_ == rows::passed_over) return;
     faults_.add(line.fields[0].place, "AT opens a curve; it stands only behind the name of a curve table");
-    if (rows_ == rows::read) draft_.use(*open_).cut = draft_.use(*open_).faulty = true;
+    if (rows_ == rows::read) lose_rows();
     rows_ = rows::passed_over;
     return;
   }
@@ -164,6 +195,7 @@ void profile_reader::read_at_line(const deck_statement& line) {
 
 void profile_reader::read_row(const deck_statement& line) {
   if (rows_ == rows::read) return read_open_row(line);
+  lose_rows();
   if (rows_ != rows::refused) return;
   std::string text = "this row belongs to no table";
   if (open_)
@@ -181,7 +213,7 @@ void profile_reader::read_open_row(const deck_statement& line) {
   else if (const auto* table = std::get_if<const deck_table*>(&open_->what))
     closed_ = (*table)->read_row(line, *target_, faults_);
   else if (!read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_))
-    rows_ = rows::before_at;
+    lose_rows(), rows_ = rows::before_at;
   if (faults_.count() != faults) use.faulty = true;
 }
 

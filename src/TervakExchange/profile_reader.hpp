@@ -11,10 +11,10 @@ namespace Vrsk::Plin::TervakExchange {
 /// How a keyword stands in a profile.
 struct keyword_use {
   bool given = false;
-  bool meant = false;      ///< not given, but a misspelt word most likely means it
-  bool faulty = false;     ///< its line or one of its rows has a fault, so that its values are not all known
-  bool cut = false;        ///< a stray AT took the rows behind it, so that they are not all counted
-  deck_place place;        ///< of the keyword
+  bool meant = false;   ///< not given, but a misspelt word most likely means it
+  bool faulty = false;  ///< its line or one of its rows has a fault, so that its values are not all known
+  bool cut = false;     ///< some of its rows did not reach it, so that what it lacks is no fault of its own
+  deck_place place;     ///< of the keyword
   std::size_t curves = 0;  ///< AT lines behind it
   std::size_t rows = 0;    ///< rows behind it, faulty ones too
 };
@@ -23,6 +23,7 @@ struct keyword_use {
 struct profile_draft {
   int number = 0;  ///< in the deck, from 1
   std::size_t heading_line = 0;
+  bool empty = true;  ///< nothing stands behind the heading
   Tervak profile;
   std::vector<keyword_use> uses = std::vector<keyword_use>(deck_keywords().size());
 
@@ -61,6 +62,7 @@ class profile_reader {
   void read_unknown(const deck_statement& line);
   void open(const deck_keyword& keyword, const deck_statement& line, Tervak& target);
   void read_at_line(const deck_statement& line);
+  void lose_rows();
   void read_row(const deck_statement& line);
   void read_open_row(const deck_statement& line);
   [[nodiscard]] bool in_curves() const {
@@ -77,9 +79,12 @@ class profile_reader {
   rows rows_ = rows::refused;
   const deck_keyword* open_ = nullptr;  ///< the last keyword that was known
   std::size_t open_line_ = 0;
-  Tervak* target_ = nullptr;  ///< the profile, or `discarded_` for a table that stands twice
-  bool closed_ = false;       ///< a row with L1 = 0 closed the list
-  bool first_ = true;         ///< no keyword line so far
+  Tervak* target_ = nullptr;                   ///< the profile, or `discarded_` for a table that stands twice
+  bool closed_ = false;                        ///< a row with L1 = 0 closed the list
+  const deck_keyword* interrupted_ = nullptr;  ///< the table that the lines since then have closed
+  bool first_ = true;                          ///< no keyword line so far
+  bool unknown_ = false, behind_unknown_ = false;  ///< this line, the line before is no keyword and no row
+  bool end_missing_ = false;
   Tervak discarded_;
 };
 

@@ -31,6 +31,8 @@ TEST(DeckRefusals, ValuesOfScalars) {
        {3, "GAMWAT 1O.1 2\n",
         "3:8: GAMWAT takes one number, found \"1O.1\"\n"
         "3:13: GAMWAT takes one number, found \"2\"" BEHIND_IT},
+       {3, "GAMWAT = 10\n",
+        "3:8: GAMWAT takes one number, found \"=\"; only blanks stand between a keyword and its value\n"},
        {3, "GAMWAT 1E400\n",
         "3:8: GAMWAT takes one number, found \"1E400\"; it is beyond the range of a double\n"},
        {3,
@@ -56,6 +58,8 @@ TEST(DeckRefusals, Revision) {
        {2, "REVISION\n", "2:1: REVISION takes 4 or 5, found none\n"},
        {2, "REVISION 5 4\n", "2:12: REVISION takes 4 or 5, found \"4\"" BEHIND_IT},
        {2, "REVISION +5\n", "accepted\n"},
+       {2, "REVISION 5,\n", "2:10: REVISION takes 4 or 5, found \"5,\"" NO_COMMA},
+       {2, "My boring\nREVISION 5\n", "2:1: unknown keyword \"My\"\n"},
        {3, "GAMWAT 1\nREVISION 5\n", "4:1: REVISION stands twice in this profile, first on line 2\n"},
        {2, "AT 1 1\nREVISION 5\n",
         "2:1: AT opens a curve; it stands only behind the name of a curve table\n"},
@@ -97,15 +101,29 @@ TEST(DeckRefusals, Keywords) {
 }
 
 TEST(DeckRefusals, WhatIsMissing) {
-  expect_all(REVISION5,
-             {{3, "", TITLE5 + "no GAMWAT\n"},
-              {7, "", TITLE5 + "no DIAM\n"},
-              {17, "", TITLE5 + "no MATPIL\n"},
-              {4, "ATMPRS 1\nSIGEMB 0\n", TITLE5 + "SIGEMB but no AEMB\n" + TITLE5 + "SIGEMB but no BEMB\n"},
-              {4, "ATMPRS 1\nSIGCIR 0\n", TITLE5 + "SIGCIR but no RADCIR\n"},
-              {4, "ATMPRS 1\nRADCIR 1\nAEMB 1\n", "accepted\n"},
-              {4, "ATMPRS 1\nNUMDSP 2\n", TITLE5 + "no DISPLACEMENTS, NUMDSP says 2\n"}});
+  expect_all(
+      REVISION5,
+      {{3, "", TITLE5 + "no GAMWAT\n"},
+       {3, " * GAMWAT 10\n", "3:2: a line cannot begin with \"*\"; a comment has its * in column 1\n"},
+       {3, "GAMWAX 10\n", "3:1: unknown keyword \"GAMWAX\"; did you mean GAMWAT?\n"},
+       {15, "Small notes\n", TITLE5 + "no WALL\n15:1: unknown keyword \"Small\"; did you mean WALL?\n"},
+       {7, "", TITLE5 + "no DIAM\n"},
+       {17, "", TITLE5 + "no MATPIL\n"},
+       {4, "ATMPRS 1\nSIGEMB 0\n", TITLE5 + "SIGEMB but no AEMB\n" + TITLE5 + "SIGEMB but no BEMB\n"},
+       {4, "ATMPRS 1\nSIGCIR 0\n", TITLE5 + "SIGCIR but no RADCIR\n"},
+       {4, "ATMPRS 1\nRADCIR 1\nAEMB 1\n", "accepted\n"},
+       {4, "ATMPRS 1\nNUMDSP 2\n", TITLE5 + "no DISPLACEMENTS, NUMDSP says 2\n"}});
   expect_all(REVISION4, {{3, "", TITLE4 + "no MIDBOT\n"}, {16, "", TITLE4 + "no RFTZ\n"}});
+  const std::string second = "the next boring\n" + std::string(REVISION5).substr(10);
+  EXPECT_EQ(
+      places(REVISION5 + second),
+      "24:1: unknown keyword \"the\"\n"
+      "25:1: REVISION stands twice in this profile, first on line 2; is END missing above the heading of the "
+      "next profile?\n");
+  EXPECT_EQ(
+      places(REVISION5 + std::string("END\nend of file")),
+      "25:1: profile 2 \"end of file\" has nothing behind its heading; at the end of a deck stands END, and no "
+      "text behind it\n");
   // The order of the file: what a later profile lacks comes behind the faults of an earlier one.
   EXPECT_EQ(places(with(REVISION5, 6, "SUSTIF x\n") + std::string("END\n Boring\tB-7 \nREVISION 5\n") +
                    with(with(with(REVISION5, 7, "DIAM x\n"), 3, ""), 2, "").substr(10)),
@@ -130,9 +148,15 @@ TEST(DeckRefusals, Tables) {
                "20:1: SKINFRICTION has 2 rows, MAINLAYERS has 1\n"},
               {22, "NUMLAYM 2\nSUBDIVISION\n", "18:1: MAINLAYERS has 1 row, NUMLAYM says 2\n"},
               {19, "SFSU 1\n1 30.5 18.1 12 20 35 0.7 21 45 31 0.01 0.25 99\n",
-               "20:1: this row belongs to no table, SFSU on line 19 takes no rows\n"
-               "21:1: SKINFRICTION has 1 row, MAINLAYERS has 0\n"
-               "23:1: SUBDIVISION has 1 row, MAINLAYERS has 0\n"},
+               "20:1: this row belongs to no table, SFSU on line 19 takes no rows\n"},
+              {23, "x1 30.5 4 284 293 200 1\n", "23:1: unknown keyword \"x1\"\n"},
+              {23, "\"1 30.5 4 284 293 200 1\n", "23:1: a line cannot begin with \"\"\"\n"},
+              {23, "MAINLAYERS\n1 30.5 4 284 293 200 1\n",
+               "23:1: MAINLAYERS stands twice in this profile, first on line 18\n"
+               "24:1: MAINLAYERS row takes 13 fields, found 7\n"},
+              {23, "Small notes\n",
+               "22:1: SUBDIVISION has 0 rows, MAINLAYERS has 1\n"
+               "23:1: unknown keyword \"Small\"; did you mean WALL?\n"},
               {2, "+1 2\nREVISION 5\n", "2:1: this row belongs to no table\n"},
               {18, "MODIFYPY\n1 2 0 1 1 1 1 1 1\n0 0 0 0 0 0 0 0 0\n2 3 0 1 1 1 1 1 1\n3 4 1\nMAINLAYERS\n",
                "21:1: this row of MODIFYPY stands behind a row whose L1 is 0, which closes the list\n"
@@ -140,14 +164,18 @@ TEST(DeckRefusals, Tables) {
               {18, "POINTLOADS\n1 2\nPOINTLOADS\n1 2 3\nMAINLAYERS\n",
                "20:1: POINTLOADS stands twice in this profile, first on line 18\n"
                "21:1: POINTLOADS row takes 2 fields, found 3\n"}});
-  expect_all(REVISION4, {{20, "0.5 - 16 - 0.03 900 0.35 0.05\n",
-                          "20:5: TZQZTABLE column 2, TCMP, takes a number, found \"-\"\n"},
-                         {20, "0.5 15 16 -- 0.03 900 0.35 0.05\n",
-                          "20:11: TZQZTABLE column 4, G0SOIL, takes a number or \"-\", found \"--\"\n"},
-                         {3, "MIDBOT 1\nNUMTYP 2\nNUMTQZ 1\nNUMLAY 13\n",
-                          "20:1: SOILTYPES has 1 row, NUMTYP says 2\n"
-                          "22:1: TZQZTABLE has 2 rows, NUMTQZ says 1\n"
-                          "25:1: LAYERS ends at layer 12, NUMLAY says 13\n"}});
+  expect_all(REVISION4,
+             {{20, "0.5 - 16 - 0.03 900 0.35 0.05\n",
+               "20:5: TZQZTABLE column 2, TCMP, takes a number, found \"-\"\n"},
+              {20, "0.5 15 16 -- 0.03 900 0.35 0.05\n",
+               "20:11: TZQZTABLE column 4, G0SOIL, takes a number or \"-\", found \"--\"\n"},
+              {3, "MIDBOT 1\nNUMTYP 2\nNUMTQZ 1\nNUMLAY 13\n",
+               "20:1: SOILTYPES has 1 row, NUMTYP says 2\n"
+               "22:1: TZQZTABLE has 2 rows, NUMTQZ says 1\n"
+               "25:1: LAYERS ends at layer 12, NUMLAY says 13\n"},
+              {24, "5 4 1 30 0 214 101\n",
+               "22:1: LAYERS reaches its last layer, 4, in row 1 of 2; the L2 ascend from row to row\n"},
+              {24, "NUMLAY 4\n", "accepted\n"}});
 }
 
 TEST(DeckRefusals, Curves) {
@@ -160,28 +188,30 @@ TEST(DeckRefusals, Curves) {
        {3, "MIDBOT 1\nNUMLAY 4.\nMANUALPY\nAT 5 1\n0 0\n",  // a faulty NUMLAY says nothing about the codes
         "4:8: NUMLAY takes one integer, found \"4.\"" NO_POINT},
        {3, "MIDBOT 1\nMANUALTZ\nAT 1 1\n0 0\n", "4:1" + unused}});
-  expect_all(REVISION5,
-             {{3, "GAMWAT 1\nMANUALTZ\nAT 1 1\n", "4:1" + unused},
-              {3, "GAMWAT 1\nMANUALBSY\n1 2\n2 3\nSFSU 1\n",
-               "4:1: MANUALBSY has no curve; AT, a layer and a diameter open one\n"
-               "5:1: this row stands before the first AT of MANUALBSY\n"},
-              {3, "GAMWAT 1\nMANUALBSY\nAT 1.0 x\n1 y\n1 2 3\nAT 1\nAT 1,2\n",
-               "5:4: AT takes an integer as layer, found \"1.0\"" NO_POINT
-               "5:8: AT takes a number as diameter, found \"x\"\n"
-               "6:3: MANUALBSY displacement takes a number, found \"y\"\n"
-               "7:1: MANUALBSY row takes 2 fields, found 3\n"
-               "8:1: AT takes a layer and a diameter, found 1 field behind it\n"
-               "9:4: AT takes numbers parted by blanks, found \"1,2\"" NO_COMMA},
-              {3, "GAMWAT 1\nMANUALBSY\n1 2\n2 3\nAT 1 1\n1 2 3\n",
-               "5:1: this row stands before the first AT of MANUALBSY\n"
-               "8:1: MANUALBSY row takes 2 fields, found 3\n"},
-              {19, "AT 1 1.2\n1 30.5 18.1 12 20 35 0.7 21 45 31 0.01 0.25 99\n",
-               "19:1: AT opens a curve; it stands only behind the name of a curve table\n"},
-              {18, "AT 1 1.2\n0 0\nMAINLAYERS\n",
-               "18:1: AT opens a curve; it stands only behind the name of a curve table\n"},
-              {3, "GAMWAT 1\nMODIFYBSY\n1 1 1 1 1\nMODIFYMTHETA\nMODIFYBMTHETA\nMANUALBMTHETA\nAT 1 1\n",
-               "4:1: MODIFYBSY stands without MANUALBSY, which it modifies\n"
-               "6:1: MODIFYMTHETA stands without MANUALMTHETA, which it modifies\n"}});
+  expect_all(
+      REVISION5,
+      {{3, "GAMWAT 1\nMANUALTZ\nAT 1 1\n", "4:1" + unused},
+       {3, "GAMWAT 1\nMANUALBSY\n1 2\n2 3\nSFSU 1\n",
+        "5:1: this row stands before the first AT of MANUALBSY\n"},
+       {3, "GAMWAT 1\nMANUALPY\n", "4:1: MANUALPY has no curve; AT, a layer and a diameter open one\n"},
+       {3, "GAMWAT 1\nMANUALBSY\nAT1 1.0\n1 2\n", "5:1: unknown keyword \"AT1\"; did you mean AT?\n"},
+       {3, "GAMWAT 1\nMANUALBSY\nAT 1.0 x\n1 y\n1 2 3\nAT 1\nAT 1,2\n",
+        "5:4: AT takes an integer as layer, found \"1.0\"" NO_POINT
+        "5:8: AT takes a number as diameter, found \"x\"\n"
+        "6:3: MANUALBSY displacement takes a number, found \"y\"\n"
+        "7:1: MANUALBSY row takes 2 fields, found 3\n"
+        "8:1: AT takes a layer and a diameter, found 1 field behind it\n"
+        "9:4: AT takes numbers parted by blanks, found \"1,2\"" NO_COMMA},
+       {3, "GAMWAT 1\nMANUALBSY\n1 2\n2 3\nAT 1 1\n1 2 3\n",
+        "5:1: this row stands before the first AT of MANUALBSY\n"
+        "8:1: MANUALBSY row takes 2 fields, found 3\n"},
+       {19, "AT 1 1.2\n1 30.5 18.1 12 20 35 0.7 21 45 31 0.01 0.25 99\n",
+        "19:1: AT opens a curve; it stands only behind the name of a curve table\n"},
+       {18, "AT 1 1.2\n0 0\nMAINLAYERS\n",
+        "18:1: AT opens a curve; it stands only behind the name of a curve table\n"},
+       {3, "GAMWAT 1\nMODIFYBSY\n1 1 1 1 1\nMODIFYMTHETA\nMODIFYBMTHETA\nMANUALBMTHETA\nAT 1 1\n",
+        "4:1: MODIFYBSY stands without MANUALBSY, which it modifies\n"
+        "6:1: MODIFYMTHETA stands without MANUALMTHETA, which it modifies\n"}});
 }
 
 }  // namespace

@@ -113,6 +113,18 @@ TEST(ExitStatus, ADeckUnderOneNameIsAnsweredWithTheCure) {
             std::string::npos);
 }
 
+TEST(ExitStatus, ACopyOfTheDeckThatWasForgottenIsTold) {
+  const std::string warning =
+      " ---- Warning from SR/CONTRL : TERVAK.INP differs from tervak.inp, which is the deck of this run\r\n";
+  const run_directory directory;
+  directory.deck(small_deck());
+  ASSERT_EQ(directory.run(), 0);
+  EXPECT_EQ(directory.read("TERVAK.MLG").find(warning), std::string::npos);
+  directory.write("TERVAK.INP", small_deck() + "\n");
+  ASSERT_EQ(directory.run(), 0);
+  EXPECT_NE(directory.read("TERVAK.MLG").find(warning), std::string::npos);
+}
+
 TEST(ExitStatus, ThePrintLevelSaysWhatTheListingHolds) {
   const run_directory directory;
   directory.deck(with(small_deck(), "DIAM     1.0", "JPRINT   0\nDIAM     1.0"));
