@@ -9,8 +9,10 @@ namespace {
 constexpr double softening_share = 0.001;
 constexpr double vertical_share = 0.05;
 constexpr double vertical_length = 1e-6;
-// The file keeps nine digits: a fall or step of just the limit must not change sides by that.
-constexpr double rounding = 1e-6;
+// The file keeps nine digits of each stress: a fall or step of just the limit must not change sides by that.
+constexpr double rounding = 1e-8;
+// Displacements count as they stand there: a share of the limit for what subtracting two of them leaves.
+constexpr double difference = 1e-6;
 
 double peak_of(const curve& c, const std::vector<std::size_t>& points) {
   double peak = 0.0;
@@ -20,7 +22,7 @@ double peak_of(const curve& c, const std::vector<std::size_t>& points) {
 
 void find_softening(const curve& c, int side, const std::vector<std::size_t>& points, double peak,
                     std::vector<mark>& out) {
-  mark worst{mark_kind::softening, side, 0, 0, softening_share * (1.0 + rounding)};
+  mark worst{mark_kind::softening, side, 0, 0, softening_share + rounding};
   std::size_t highest = points.front();
   bool found = false;
   for (const std::size_t i : points) {
@@ -42,13 +44,13 @@ void find_vertical(const curve& c, int side, const std::vector<std::size_t>& poi
     double step = 0.0;
     for (std::size_t b = a + 1; b < points.size(); ++b) {
       const point& end = c[points[b]];
-      if (std::abs(end.displacement - start.displacement) > vertical_length * length * (1.0 + rounding))
+      if (std::abs(end.displacement - start.displacement) > vertical_length * length * (1.0 + difference))
         break;
       if (std::abs(end.stress - start.stress) / peak <= step) continue;
       step = std::abs(end.stress - start.stress) / peak;
       to = b;
     }
-    if (step < vertical_share * (1.0 - rounding)) continue;
+    if (step < vertical_share - rounding) continue;
     out.push_back({mark_kind::vertical, side, points[a], points[to], step});
     a = to - 1;
   }
@@ -58,7 +60,8 @@ void find_vertical(const curve& c, int side, const std::vector<std::size_t>& poi
 
 std::size_t origin_of(const curve& c) {
   const auto nearer = [](const point& a, const point& b) {
-    return std::abs(a.displacement) < std::abs(b.displacement);
+    return std::pair(std::abs(a.displacement), std::abs(a.stress)) <
+           std::pair(std::abs(b.displacement), std::abs(b.stress));
   };
   return static_cast<std::size_t>(std::min_element(c.begin(), c.end(), nearer) - c.begin());
 }

@@ -22,7 +22,7 @@ struct mark {
   double share = 0.0;  // fall or step as a share of the side's peak
 };
 
-/// Index of the origin: the point of least displacement.
+/// Index of the origin: the point of least displacement, and of least stress among several.
 std::size_t origin_of(const curve& c);
 /// Indices from the origin to the end of a side (1 or -1).
 std::vector<std::size_t> outward(const curve& c, int side);

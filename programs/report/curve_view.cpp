@@ -146,6 +146,19 @@ const char* mark_letter(mark_kind kind) {
   return kind == mark_kind::softening ? "S" : kind == mark_kind::vertical ? "V" : "0";
 }
 
+std::vector<std::pair<std::size_t, std::string>> letters_of(const std::vector<mark>& marks) {
+  std::vector<std::pair<std::size_t, std::string>> out;
+  for (const mark& m : marks) {
+    if (m.kind == mark_kind::zero) continue;
+    const auto there = std::find_if(out.begin(), out.end(), [&](const auto& o) { return o.first == m.to; });
+    if (there == out.end())
+      out.emplace_back(m.to, mark_letter(m.kind));
+    else
+      there->second += mark_letter(m.kind);
+  }
+  return out;
+}
+
 std::string percent(double share) {
   std::array<char, 40> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), 100.0 * share,
@@ -170,7 +183,7 @@ curve_view view_curves(const profile& p, const layer& l, curve_kind kind, const 
   const auto [left, right] = drawn_range(p, curves);
   curve_view out;
   const std::string length = is_rotation(kind) ? "as given" : u.of_length();
-  out.x = make_axis(left, right, std::string(words.displacement) + " [" + length + "]");
+  out.x = make_axis(left, right, std::string(words.displacement) + " [" + length + "]", curve_box.across());
   out.y = stress_axis(curves, left, right, std::string(words.stress) + " [" + stress_unit(kind, u) + "]");
   out.note = zero_note(p, curves) + cut_note(curves, left, right);
   out.marks = marks_of(p, l, kind);

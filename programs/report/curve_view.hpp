@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "report/curve_marks.hpp"
@@ -42,10 +43,14 @@ struct curve_view {
 std::vector<std::vector<mark>> marks_of(const profile& p, const layer& l, curve_kind kind);
 
 curve_view view_curves(const profile& p, const layer& l, curve_kind kind, const units& u);
+/// The drawing of them, with the letters of the marks at their points.
+plot curve_plot(const profile& p, const layer& l, curve_kind kind, const curve_view& view);
 
 /// Name of a mark as the page prints it, and the letter that stands at its points.
 const char* mark_name(mark_kind kind);
 const char* mark_letter(mark_kind kind);
+/// The points of a curve where letters stand, each once: "SV" at a drop. Zero curves have none.
+std::vector<std::pair<std::size_t, std::string>> letters_of(const std::vector<mark>& marks);
 /// A share as "12.5 %".
 std::string percent(double share);
 

@@ -53,7 +53,7 @@ std::string depth_plot(const profile& p, const units& u, const std::string& titl
   plot drawing{.title = title + " over the level",
                .box = depth_box,
                .x_on_top = true,
-               .x = make_axis(low - room, high + room, x_title),
+               .x = make_axis(low - room, high + room, x_title, depth_box.across()),
                .y = level_axis(p, u),
                .bands = ground(p)};
   for (const depth_line& line : lines) {

@@ -14,28 +14,10 @@ std::string with_unit(double value, const std::string& unit, bool named) {
   return number_text(value) + (named ? " " + unit : "");
 }
 
-std::string curve_plot(const profile& p, const layer& l, curve_kind kind, const curve_view& view) {
-  plot drawing{.title = std::string(words_of(kind).name) + " curves", .x = view.x, .y = view.y};
-  const std::vector<curve>& curves = l.of(kind);
-  for (std::size_t d = 0; d < p.diameters.size(); ++d) {
-    plot_line& line = drawing.lines.emplace_back(plot_line{d, {}, 1});
-    for (const point& q : curves[d]) line.points.emplace_back(q.displacement, q.stress);
-    line.points = clip_to(line.points, view.x.low, view.x.high);
-    for (const mark& m : view.marks[d]) {
-      if (m.kind == mark_kind::zero) continue;
-      const point& q = curves[d][m.to];
-      if (q.displacement >= view.x.low && q.displacement <= view.x.high)
-        drawing.notes.push_back({q.displacement, q.stress, mark_letter(m.kind)});
-    }
-  }
-  return svg(drawing);
-}
-
 std::string mark_cell(const std::vector<mark>& marks, std::size_t point) {
-  std::string letters;
-  for (const mark& m : marks)
-    if (m.kind != mark_kind::zero && m.to == point) letters += mark_letter(m.kind);
-  return letters;
+  for (const auto& [at, letters] : letters_of(marks))
+    if (at == point) return letters;
+  return "";
 }
 
 /// The points of up to three diameters beside one another.
@@ -76,9 +58,9 @@ std::string kind_html(const profile& p, const layer& l, curve_kind kind, std::si
   for (const std::string& text : view.mark_texts) marks += "<li>" + escape_html(text) + "</li>";
   return "<div class=\"kind\" data-kind=\"" + std::to_string(number) + "\"><h4>" + words_of(kind).name +
          "</h4><div class=\"pair\"><figure><p class=\"legend\">" + legend_html(p, u) + "</p>" +
-         curve_plot(p, l, kind, view) + "<p class=\"readout\"></p><figcaption>" + escape_html(view.note) +
-         "</figcaption><ul class=\"marks\">" + marks + "</ul></figure><div class=\"tables\">" + tables +
-         "</div></div></div>";
+         svg(curve_plot(p, l, kind, view)) + "<p class=\"readout\"></p><figcaption>" +
+         escape_html(view.note) + "</figcaption><ul class=\"marks\">" + marks +
+         "</ul></figure><div class=\"tables\">" + tables + "</div></div></div>";
 }
 
 }  // namespace

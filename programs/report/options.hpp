@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -12,7 +13,10 @@ struct options {
   bool help = false;
   units u;
   std::string input = "TERVAK.RIF";
-  std::string output = "TERVAK.html";
+  std::string output = "TERVAK.html";  // TERVAK.svg for a picture
+  // The picture of one layer in place of the page: numbers from 1, layer 0 for the page.
+  std::size_t profile = 1;
+  std::size_t layer = 0;
 };
 
 /// A command line that cannot be followed.

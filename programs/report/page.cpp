@@ -4,6 +4,7 @@
 #include "report/layer_html.hpp"
 #include "report/page_data.hpp"
 #include "report/profile_tables.hpp"
+#include "report/svg_plot.hpp"
 #include "report/text.hpp"
 
 namespace tervak::report {
@@ -53,13 +54,14 @@ std::string page(const interface_file& file, const std::string& file_name, const
   return "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><meta name=\"viewport\" "
          "content=\"width=device-width\"><title>Soil curves of " +
          escape_html(file_name) + "</title><link rel=\"expect\" href=\"#end\" blocking=\"render\"><style>" +
-         std::string(page_style) + "</style></head>\n<body><header><h1>Soil curves of " +
-         escape_html(file_name) + "</h1><pre>" + date + "</pre><p>" + units_text(u) +
+         std::string(plot_style) + std::string(page_style) +
+         "</style></head>\n<body><header><h1>Soil curves of " + escape_html(file_name) + "</h1><pre>" + date +
+         "</pre><p>" + units_text(u) +
          " P-Y stress is the lateral resistance per unit length divided by the diameter, T-Z stress the skin friction, "
          "Q-Z stress the tip resistance; compression is positive. By default a pile tip takes no tension.</p>"
          "<p>Marks: <b>S</b> softening, the stress falls by more than 0.1 % of the peak going outward; <b>V</b> "
          "near-vertical, 5 % of the peak or more over at most a millionth of the diameter; <b>0</b> zero curve. "
-         "Layers at or above the scour level have no resistance and are not marked.</p>" +
+         "Layers at or above the scour level are not marked.</p>" +
          (file.profiles.size() > 1 ? "<ul class=\"contents\">" + contents + "</ul>" : "") +
          "<noscript><p>Without its script this page shows the curves of one layer of each profile.</p></noscript>"
          "</header>\n" +

@@ -30,10 +30,9 @@ std::string points(const curve& c) {
 std::string places(const std::vector<std::vector<mark>>& marks) {
   std::string out;
   for (std::size_t d = 0; d < marks.size(); ++d)
-    for (const mark& m : marks[d])
-      if (m.kind != mark_kind::zero)
-        out += (out.empty() ? "[" : ",[") + std::to_string(d) + "," + std::to_string(m.to) + "," +
-               json_text(mark_letter(m.kind)) + "]";
+    for (const auto& [at, letters] : letters_of(marks[d]))
+      out += (out.empty() ? "[" : ",[") + std::to_string(d) + "," + std::to_string(at) + "," +
+             json_text(letters) + "]";
   return join({"[", out, "]"});
 }
 

@@ -50,18 +50,6 @@ button { font: inherit; font-size: 12px; margin: 6px 0; }
 .curves { content-visibility: auto; contain-intrinsic-size: auto 1300px; }
 svg.plot { width: 100%; height: auto; display: block; }
 svg.sample { width: 44px; height: 10px; margin-right: 4px; }
-svg text { font: 11px "Liberation Sans", Arial, Helvetica, sans-serif; }
-svg .tx { text-anchor: middle; }
-svg .ty, svg .tb { text-anchor: end; }
-svg .tb { font-size: 10px; font-style: italic; }
-svg .mk { font-weight: bold; font-size: 13px; text-anchor: middle; paint-order: stroke; stroke: #fff; stroke-width: 3px; }
-svg .grid { stroke: #d4d4d4; stroke-width: 0.6; fill: none; }
-svg .zero { stroke: #777; stroke-width: 0.9; fill: none; }
-svg .frame { stroke: #000; fill: none; }
-svg .band { fill: #ececec; }
-svg .level { stroke: #000; stroke-width: 1.6; fill: none; }
-svg .line { stroke: #000; stroke-width: 1.3; fill: none; }
-svg .dot { stroke: #000; }
 svg .ring { stroke: #000; stroke-width: 1.6; fill: none; }
 @media screen and (max-width: 900px) {
   .curves, .depths { display: block; }

@@ -43,7 +43,7 @@ class profile_reader {
     if (found == "IEND")
       in_.refuse_here("IEND stands where " + wanted +
                       " was expected: the run failed within this profile, see its log TERVAK.MLG");
-    if (found.empty())
+    if (in_.at_end())
       in_.refuse_here("expected " + wanted + "; no IEND: the run that wrote this file did not end properly");
     if (found != name) in_.refuse_here("expected " + wanted);
     return in_.next();
@@ -229,7 +229,7 @@ interface_file read_interface_file(const std::string& file_name, std::string_vie
   std::copy_n(date.text_lines.begin(), out.date_lines.size(), out.date_lines.begin());
   while (in.next_name() == "TSOILPRF")
     out.profiles.push_back(profile_reader(in, static_cast<int>(out.profiles.size()) + 1).read());
-  if (in.next_name().empty())
+  if (in.at_end())
     in.refuse_here(
         "expected IEND or a further profile; no IEND: the run that wrote this file did not end properly");
   if (in.next_name() != "IEND") in.refuse_here("expected IEND or the TSOILPRF of a further profile");
@@ -237,7 +237,7 @@ interface_file read_interface_file(const std::string& file_name, std::string_vie
     in.refuse_here(
         "the file holds no profile: the run failed before it finished one, see its log TERVAK.MLG");
   in.next();
-  if (!in.next_name().empty()) in.refuse_here("expected nothing behind IEND");
+  if (!in.at_end()) in.refuse_here("expected nothing behind IEND");
   return out;
 }
 

@@ -71,6 +71,11 @@ std::string record_reader::next_name() const {
   return at_ < lines_.size() ? std::string(trim_end(lines_[at_].substr(0, name_width))) : std::string();
 }
 
+bool record_reader::at_end() const {
+  return std::all_of(lines_.begin() + static_cast<std::ptrdiff_t>(at_), lines_.end(),
+                     [](std::string_view line) { return trim_end(line).empty(); });
+}
+
 void record_reader::fail(std::size_t line, std::size_t column, const std::string& text) const {
   std::string what = file_name_ + ":" + std::to_string(line + 1) + ":" + std::to_string(column) + ": " + text;
   if (line < lines_.size())

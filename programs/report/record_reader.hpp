@@ -27,8 +27,10 @@ class record_reader {
  public:
   record_reader(std::string file_name, std::string_view text);
 
-  /// Name of the next record, empty behind the last.
+  /// Name of the next record, empty behind the last and where a line begins with blanks.
   std::string next_name() const;
+  /// Whether only blank lines are left.
+  bool at_end() const;
   /// The next record, whole. Throws rif_error; also behind the last record.
   record next();
 

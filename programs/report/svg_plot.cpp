@@ -1,5 +1,6 @@
 #include "report/svg_plot.hpp"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -15,12 +16,12 @@ std::string px(double value) {
   std::array<char, 64> buffer{};
   const auto end =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 1);
-  return end.ec == std::errc() ? std::string(buffer.data(), end.ptr) : "0.0";
+  return end.ec == std::errc() && std::isfinite(value) ? std::string(buffer.data(), end.ptr) : "0.0";
 }
 
 double x_of(const plot& p, double x) {
   const double share = (x - p.x.low) / (p.x.high - p.x.low);
-  return p.box.left + share * (p.box.width - p.box.left - p.box.right);
+  return p.box.left + share * p.box.across();
 }
 
 double y_of(const plot& p, double y) {
@@ -87,27 +88,51 @@ std::string line(const plot& p, const plot_line& l) {
          "\"/><path class=\"dot\" fill=\"" + style.fill + "\" d=\"" + markers + "\"/>";
 }
 
+/// Round ticks, at most so many and one more.
+std::vector<std::string> ticks_of(double low, double high, double most) {
+  const double rough = (high - low) / most;
+  const double decade = std::pow(10.0, std::floor(std::log10(rough)));
+  double step = 10.0 * decade;
+  for (const double part : {5.0, 2.0, 1.0})
+    if (part * decade >= rough) step = part * decade;
+  std::vector<std::string> ticks;
+  // Ten digits take out what the product adds behind the round value.
+  const double first = std::ceil(low / step);
+  for (double n = 0.0; n <= most && (first + n) * step <= high; n += 1.0)
+    ticks.push_back(rounded_text((first + n) * step, 10));
+  return ticks;
+}
+
+/// Whether the labels leave room between them.
+bool fits(const axis& a, double across) {
+  if (a.ticks.size() < 2) return true;
+  const double pitch = (tick(a.ticks[1]) - tick(a.ticks[0])) / (a.high - a.low) * across;
+  return std::all_of(a.ticks.begin(), a.ticks.end(),
+                     [&](const std::string& label) { return text_width(label) + 6.0 <= pitch; });
+}
+
 }  // namespace
 
-axis make_axis(double low, double high, std::string title) {
-  if (!(high > low)) {
+double text_width(std::string_view text) {
+  double width = 0.0;
+  for (const char c : text) width += c == '.' || c == ' ' ? 3.1 : c == '-' ? 3.7 : 6.2;
+  return width;
+}
+
+axis make_axis(double low, double high, std::string title, double across) {
+  // Numbers of a foreign file, of which the difference would not be a number.
+  constexpr double limit = 1e300;
+  low = std::clamp(low, -limit, limit);
+  high = std::clamp(high, -limit, limit);
+  if (!(high - low > 1.0 / limit)) {
     const double half = std::max(1.0, std::abs(low) * 0.1);
     low -= half;
     high += half;
   }
   axis out{low, high, {}, std::move(title), false};
-  const double rough = (high - low) / 8.0;
-  const double decade = std::pow(10.0, std::floor(std::log10(rough)));
-  double step = 10.0 * decade;
-  for (const double part : {5.0, 2.0, 1.0})
-    if (part * decade >= rough) step = part * decade;
-  for (double n = std::ceil(low / step); n * step <= high; n += 1.0) {
-    // Ten digits take out what the product adds behind the round value.
-    std::array<char, 40> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size() - 1, n * step,
-                                   std::chars_format::general, 10);
-    *end.ptr = '\0';
-    out.ticks.push_back(number_text(std::strtod(digits.data(), nullptr)));
+  for (double most = 8.0; most >= 2.0; most -= 1.0) {
+    out.ticks = ticks_of(low, high, most);
+    if (across == 0.0 || fits(out, across)) break;
   }
   return out;
 }
@@ -120,11 +145,15 @@ line_style style_of(std::size_t index) {
   return {dashes[index % 4], markers[index % 4], index / 4 % 2 == 0 ? "#fff" : "#000"};
 }
 
-std::string style_sample(std::size_t index) {
+std::string style_paths(std::size_t index) {
   const line_style style = style_of(index);
-  return "<svg class=\"sample\" viewBox=\"0 0 44 10\" aria-hidden=\"true\"><path class=\"line\" stroke-dasharray=\"" +
-         style.dash + "\" d=\"M1 5H43\"/><path class=\"dot\" fill=\"" + style.fill + "\" d=\"M22 5" +
-         style.marker + "\"/></svg>";
+  return "<path class=\"line\" stroke-dasharray=\"" + style.dash +
+         "\" d=\"M1 5H43\"/><path class=\"dot\" fill=\"" + style.fill + "\" d=\"M22 5" + style.marker +
+         "\"/>";
+}
+
+std::string style_sample(std::size_t index) {
+  return "<svg class=\"sample\" viewBox=\"0 0 44 10\" aria-hidden=\"true\">" + style_paths(index) + "</svg>";
 }
 
 std::vector<std::pair<double, double>> clip_to(const std::vector<std::pair<double, double>>& points,
@@ -144,12 +173,31 @@ std::vector<std::pair<double, double>> clip_to(const std::vector<std::pair<doubl
   return out;
 }
 
-std::string svg(const plot& p) {
-  std::string out = "<svg class=\"plot\" viewBox=\"0 0 " + px(p.box.width) + " " + px(p.box.height) +
-                    "\" role=\"img\" aria-label=\"" + escape_html(p.title) + "\">" + bands(p) + frame(p);
+std::string svg_content(const plot& p) {
+  std::string out = bands(p) + frame(p);
   for (const plot_line& l : p.lines) out += line(p, l);
   for (const plot_note& n : p.notes) out += text_at("mk", x_of(p, n.x), y_of(p, n.y) - 7, n.text);
-  return out + "</svg>";
+  return out;
 }
+
+std::string svg(const plot& p) {
+  return "<svg class=\"plot\" viewBox=\"0 0 " + px(p.box.width) + " " + px(p.box.height) +
+         "\" role=\"img\" aria-label=\"" + escape_html(p.title) + "\">" + svg_content(p) + "</svg>";
+}
+
+const std::string_view plot_style = R"css(
+svg text { font: 11px "Liberation Sans", Arial, Helvetica, sans-serif; }
+svg .tx { text-anchor: middle; }
+svg .ty, svg .tb { text-anchor: end; }
+svg .tb { font-size: 10px; font-style: italic; }
+svg .mk { font-weight: bold; font-size: 13px; text-anchor: middle; paint-order: stroke; stroke: #fff; stroke-width: 3px; }
+svg .grid { stroke: #d4d4d4; stroke-width: 0.6; fill: none; }
+svg .zero { stroke: #777; stroke-width: 0.9; fill: none; }
+svg .frame { stroke: #000; fill: none; }
+svg .band { fill: #ececec; }
+svg .level { stroke: #000; stroke-width: 1.6; fill: none; }
+svg .line { stroke: #000; stroke-width: 1.3; fill: none; }
+svg .dot { stroke: #000; }
+)css";
 
 }  // namespace tervak::report

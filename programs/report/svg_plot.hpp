@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tervak::report {
@@ -14,17 +15,22 @@ struct axis {
   bool reversed = false;  // low at the top, as for levels that grow downward
 };
 
-/// An axis from `low` to `high` with four to nine round ticks. Equal ends are moved apart.
-axis make_axis(double low, double high, std::string title);
+/// An axis from `low` to `high` with up to nine round ticks. Equal ends are moved apart. `across` is the
+/// length of an axis whose labels stand side by side: it gets fewer ticks where they would touch.
+axis make_axis(double low, double high, std::string title, double across = 0.0);
+/// About the width of a text of the plot.
+double text_width(std::string_view text);
 
 /// Width and height of a plot and its margins, in units of the drawing.
 struct plot_box {
   double width, height, left, right, top, bottom;
+
+  constexpr double across() const { return width - left - right; }
 };
 /// Of a layer's curves. The page's script draws into the same.
-inline constexpr plot_box curve_box = {470, 380, 66, 10, 10, 42};
+inline constexpr plot_box curve_box = {470, 380, 80, 10, 10, 42};
 /// Over depth, the values' axis on top.
-inline constexpr plot_box depth_box = {360, 430, 52, 12, 42, 10};
+inline constexpr plot_box depth_box = {360, 430, 60, 12, 42, 10};
 
 /// Lines and markers that differ without colour: four dashes, four shapes, then the same shapes filled.
 struct line_style {
@@ -33,8 +39,9 @@ struct line_style {
   std::string fill;
 };
 line_style style_of(std::size_t index);
-/// A short sample of a style, for legends.
+/// A short sample of a style, for legends: a drawing of its own, and its paths alone, 44 wide and 10 high.
 std::string style_sample(std::size_t index);
+std::string style_paths(std::size_t index);
 
 struct plot_line {
   std::size_t style = 0;
@@ -70,5 +77,9 @@ std::vector<std::pair<double, double>> clip_to(const std::vector<std::pair<doubl
                                                double low, double high);
 
 std::string svg(const plot& p);
+/// What stands within the svg element, for a part of a greater drawing.
+std::string svg_content(const plot& p);
+/// The style sheet of a plot.
+extern const std::string_view plot_style;
 
 }  // namespace tervak::report

@@ -3,12 +3,13 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace tervak::report {
 namespace {
 
-/// Length of the UTF-8 sequence of two or more bytes at the front of `text`, 0 when there is none. Overlong
-/// forms of three and four bytes are not looked for: a browser replaces them.
+/// Length of the UTF-8 sequence of two or more bytes at the front of `text`, 0 when there is none: no
+/// overlong form, no half of a surrogate pair, neither of the two characters that XML leaves out.
 std::size_t utf8_sequence(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const std::size_t length = byte(0) >= 0xc2 && byte(0) < 0xe0   ? 2
@@ -18,7 +19,10 @@ std::size_t utf8_sequence(std::string_view text) {
   if (length == 0 || text.size() < length) return 0;
   for (std::size_t i = 1; i < length; ++i)
     if ((byte(i) & 0xc0) != 0x80) return 0;
-  return length;
+  const bool bad = (byte(0) == 0xe0 && byte(1) < 0xa0) || (byte(0) == 0xed && byte(1) >= 0xa0) ||
+                   (byte(0) == 0xf0 && byte(1) < 0x90) || (byte(0) == 0xf4 && byte(1) >= 0x90) ||
+                   text.substr(0, 3) == "\xef\xbf\xbe" || text.substr(0, 3) == "\xef\xbf\xbf";
+  return bad ? 0 : length;
 }
 
 /// The text as valid UTF-8.
@@ -112,6 +116,12 @@ std::string number_text(double value) {
     if (out[e + 1] == '+') out.erase(e + 1, 1);
   }
   return out;
+}
+
+std::string rounded_text(double value, int digits) {
+  std::array<char, 40> buffer{};
+  std::to_chars(buffer.data(), buffer.data() + buffer.size() - 1, value, std::chars_format::general, digits);
+  return number_text(std::strtod(buffer.data(), nullptr));
 }
 
 std::string ranges_text(const std::vector<std::size_t>& numbers) {

@@ -13,8 +13,9 @@ std::string join(std::initializer_list<std::string_view> parts);
 /// Cuts blanks at the end.
 std::string_view trim_end(std::string_view text);
 
-/// Text for the body or an attribute of the page. Bytes that are no UTF-8 count as Latin-1; control
-/// characters become the replacement character.
+/// Text for the body or an attribute of the page, or of a picture, whose readers refuse a file with any byte
+/// out of place: bytes that are no UTF-8 count as Latin-1, and control characters become the replacement
+/// character.
 std::string escape_html(std::string_view text);
 
 /// A quoted JSON text that may stand inside a script element: no '<' is left in it.
@@ -24,6 +25,9 @@ std::string json_text(std::string_view text);
 /// fixed from 1e-4 to 1e9, else with an exponent as in 1.5e-6. Both zeros are "0". The page's script has the
 /// same rule.
 std::string number_text(double value);
+
+/// The same of the value rounded to so many significant digits.
+std::string rounded_text(double value, int digits);
 
 /// "1 to 4, 7, 9 to 12" from ascending numbers.
 std::string ranges_text(const std::vector<std::size_t>& numbers);

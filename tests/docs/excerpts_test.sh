@@ -1,20 +1,32 @@
 #!/usr/bin/env bash
-# Every excerpt of a result in docs/ stands, line for line, in the approved output that it names:
+# Every excerpt in docs/ stands, line for line, in the file that it names, a fenced block directly behind one of
 #
-#   <!-- from: DECK FILE -->   and directly behind it a fenced block
+#   <!-- from: DECK FILE -->   an approved output
+#   <!-- deck: FILE -->        a file of this repository, such as a deck
+#   <!-- run: DECK -->         what tervak-run and then tervak-report print of this deck, run in /home/you/piles
 #
-# Line ends and blanks at the ends of lines do not count.   excerpts_test.sh [APPROVED_DIRECTORY]
+# Line ends and blanks at the ends of lines do not count.   excerpts_test.sh [DIRECTORY_OF_THE_PROGRAMS]
+# Without the programs the third kind is not looked at.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../.." && pwd)
-approved=${1:-$root/tests/golden/approved}
+programs=${1:+$(realpath "$1")}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-check() { # approved directory, documents; prints what is wrong, then the number of excerpts
+run() { # deck; leaves what is printed in $work/run
+  local name
+  name=$(basename "$1" .inp)
+  mkdir -p "$work/piles" "$work/run/$(dirname "$1")"
+  cp "$root/$1" "$work/piles"
+  (cd "$work/piles" && { "$programs/tervak-run" "$name.inp"; "$programs/tervak-report" --units kN,m -o "$name.html" "$name/TERVAK.RIF"; } 2>&1) |
+    sed "s,$work/piles,/home/you/piles," >"$work/run/$1"
+}
+
+check() { # directory of approved outputs, documents; prints what is wrong, then the number of excerpts
   local directory=$1
   shift
-  awk -v directory="$directory" '
+  awk -v directory="$directory" -v root="$root" -v run="${programs:+$work/run}" '
     function stripped(line) { sub(/[ \r]+$/, "", line); return line "\n" }
     function whole(file,    text, line) {
       text = "\n"
@@ -33,7 +45,13 @@ check() { # approved directory, documents; prints what is wrong, then the number
     }
     state == 2 { block = block stripped($0) }
     state == 1 { state = 2 }
-    /^<!-- from: / { state = 1; start = FNR; file = directory "/" $3 "/" $4; block = "\n" }
+    /^<!-- (from|deck|run): / {
+      if ($2 == "run:" && run == "") next
+      state = 1
+      start = FNR
+      block = "\n"
+      file = $2 == "from:" ? directory "/" $3 "/" $4 : ($2 == "deck:" ? root : run) "/" $3
+    }
     END {
       if (state) fault("the excerpt is not closed")
       print count + 0 " excerpts"
@@ -47,6 +65,9 @@ excerpt() { printf '<!-- from: deck FILE -->\n```\n%b\n```\n' "$1" >"$work/excer
 [ "$(excerpt 'one\n two')$(excerpt 'two\nthree')$(excerpt ' two\nthree')$(excerpt 'one\nthree')" = 1212 ] ||
   { echo "the check itself is at fault"; exit 1; }
 
-check "$approved" "$root"/docs/*.md >"$work/result"
+if [ -n "$programs" ]; then
+  for deck in $(sed -n 's/^<!-- run: \([^ ]*\) .*/\1/p' "$root"/docs/*.md | sort -u); do run "$deck"; done
+fi
+check "$root/tests/golden/approved" "$root"/docs/*.md >"$work/result"
 cat "$work/result"
 [ "$(wc -l <"$work/result")" = 1 ] && [ "$(cat "$work/result")" != "0 excerpts" ]

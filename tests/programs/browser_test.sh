@@ -76,4 +76,9 @@ times=$(for _ in 1 2 3 4 5; do
 done | sort -n | tr '\n' ' ')
 echo "load times in ms: $times"
 check "loads within a second" "$(echo "$times" | cut -d' ' -f3)" -lt 1000
+
+# The picture as a page shows it: a text out of place would leave an empty frame.
+"$report" --svg 41 --units kN,m -o "$work/picture.svg" "$work/TERVAK.RIF" || exit 1
+echo '<title></title><body><img src="picture.svg"></body></html>' >"$work/page.html"
+check "the picture of a layer" "$(dump '' "return document.images[0].naturalWidth")" = 900
 exit $((failures > 0))

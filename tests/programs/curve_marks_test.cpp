@@ -35,6 +35,12 @@ const std::vector<marked> curves = {
     {"a fall on each side", {{-8, -2}, {-10, -1}, {0, 0}, {10, 1}, {9, 2}}, 1.0, "S+ 3-4 10 %; S- 1-0 20 %"},
     {"a fall of 0.1 %", {{0, 0}, {1000, 1}, {999, 2}}, 1.0, ""},
     {"a fall of 0.11 %", {{0, 0}, {1000, 1}, {998.9, 2}}, 1.0, "S+ 1-2 0.11 %"},
+    {"a fall of 0.1 % as the file's nine digits have it",
+     {{0, 0}, {1.00000001, 1}, {0.999000005, 2}},
+     1.0,
+     ""},
+    {"a fall of 0.10001 %", {{0, 0}, {1000, 1}, {998.9999, 2}}, 1.0, "S+ 1-2 0.1 %"},
+    {"a fall at the far end", {{-10, -2000}, {-10, -1}, {0, 0}, {9, 1}, {4.5, 2000}}, 1.0, "S+ 3-4 50 %"},
     {"small falls add up", {{0, 0}, {1000, 1}, {999.4, 2}, {998.8, 3}}, 1.0, "S+ 1-3 0.12 %"},
     {"a dip before the peak", {{0, 0}, {50, 1}, {40, 2}, {100, 3}}, 1.0, "S+ 1-2 10 %"},
     {"stress below zero", {{0, 0}, {-5, 1}, {100, 2}}, 1.0, "S+ 0-1 5 %"},
@@ -43,11 +49,18 @@ const std::vector<marked> curves = {
     {"5 % over 1.1e-6 D", {{0, 0}, {50, 0.5}, {55, 0.5000022}, {100, 1}}, 2.0, ""},
     {"three steps within 1e-6 D", {{0, 0}, {2, 2e-7}, {4, 4e-7}, {6, 6e-7}, {100, 1}}, 1.0, "V+ 0-3 6 %"},
     {"two pieces", {{0, 0}, {50, 0}, {60, 1}, {100, 1}}, 1.0, "V+ 0-1 50 %; V+ 2-3 40 %"},
+    {"full at once", {{-8, -1}, {-8, 0}, {0, 0}, {8, 0}, {8, 1}}, 1.0, "V+ 2-3 100 %; V- 2-1 100 %"},
     {"a drop at one place", {{0, 0}, {100, 1}, {60, 1}}, 1.0, "S+ 1-2 40 %; V+ 1-2 40 %"},
 };
 
 TEST(CurveMarks, HandWorkedCurves) {
   for (const marked& c : curves) EXPECT_EQ(text_of(find_marks(c.points, c.diameter)), c.expected) << c.what;
+}
+
+// Two marks at one point are one text, so that their letters do not lie on one another.
+TEST(CurveMarks, Letters) {
+  const auto marks = find_marks({{-9, -2}, {-10, -1}, {0, 0}, {100, 1}, {60, 1}}, 1.0);
+  EXPECT_EQ(letters_of(marks), (std::vector<std::pair<std::size_t, std::string>>{{4, "SV"}, {0, "S"}}));
 }
 
 // Where the shape of the positive side ends.

@@ -114,6 +114,8 @@ const std::vector<damage> damages = {
     {49, "all", "",
      "T.RIF:49:1: record RVSOILPY of line 33 has 66 fields, found 64, expected a continuation line with eight "
      "blanks in front"},
+    {49, "", "\n          1.00000000E+00",
+     "T.RIF:50:1: expected RVSOILQZ of layer 1, diameter 1 of profile 1"},
     {84, "2.00000000E+00  1.0", "1.00000000E+00  1.0",
      "T.RIF:84:41: field 3 of RVSOILPY is the number of the diameter, expected 2, found 1"},
     {84, "2.00000000E+00  1.00000000E+00", "2.00000000E+00  3.00000000E+00",
@@ -125,6 +127,7 @@ const std::vector<damage> damages = {
     {339, "all", "",
      "T.RIF:338: behind the last line: expected IEND or a further profile; no IEND: the run that wrote this file did not end properly"},
     {339, "IEND    ", "RDSOILDI", "T.RIF:339:1: expected IEND or the TSOILPRF of a further profile"},
+    {339, "", "\n          0.00000000E+00", "T.RIF:340:1: expected nothing behind IEND"},
     {339, "", "\nIEND", "T.RIF:340:1: expected nothing behind IEND"},
 };
 

@@ -2,12 +2,14 @@
 #include <sys/wait.h>
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "programs/sample_rif.hpp"
+#include "report/layer_picture.hpp"
 #include "report/options.hpp"
 #include "report/page.hpp"
 #include "report/read_interface_file.hpp"
@@ -23,6 +25,9 @@ TEST(ReportText, Escapes) {
   EXPECT_EQ(escape_html("<b> & \"x\" 'y'"), "&lt;b&gt; &amp; &quot;x&quot; &#39;y&#39;");
   EXPECT_EQ(escape_html("\xC3\xB8 \xF8 \xE2\x82 \x01"), "ø ø â\xC2\x82 \xEF\xBF\xBD")
       << "Latin-1 and control bytes";
+  EXPECT_EQ(escape_html("\xE0\x80\xBC \xED\xA0\x80 \xEF\xBF\xBF \xF4\x90\x80\x80"),
+            "à\xC2\x80¼ í\xC2\xA0\xC2\x80 ï¿¿ ô\xC2\x90\xC2\x80\xC2\x80")
+      << "what XML refuses";
   EXPECT_EQ(json_text("</script> \"\\"), "\"\\u003c/script> \\\"\\\\\"");
 }
 
@@ -40,6 +45,9 @@ TEST(ReportPlot, AxesAndCuts) {
             (std::vector<std::string>{"-0.3", "-0.2", "-0.1", "0", "0.1", "0.2", "0.3"}));
   EXPECT_EQ(make_axis(0.0, 9e5, "").ticks.at(1), "200000");
   const axis flat = make_axis(7.0, 7.0, "");
+  EXPECT_EQ(make_axis(0.0, 8e6, "").ticks.size(), 9U);
+  EXPECT_EQ(make_axis(0.0, 8e6, "", 288.0).ticks.size(), 5U) << "labels side by side do not touch";
+  EXPECT_LT(make_axis(-HUGE_VAL, HUGE_VAL, "").high, HUGE_VAL);
   EXPECT_LT(flat.low, 7.0);
   EXPECT_GT(flat.high, 7.0);
   using points = std::vector<std::pair<double, double>>;
@@ -65,6 +73,42 @@ TEST(ReportPage, TitlesAndUnits) {
   EXPECT_EQ(named.find("run units"), std::string::npos);
 }
 
+std::size_t count_of(const std::string& part, const std::string& text) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+TEST(ReportPicture, DrawsALayer) {
+  const interface_file file =
+      read_interface_file("T.RIF", sample::rif({2, 5, 2, false, "</title><b> & \x01"}));
+  const std::string picture = layer_picture(file.profiles[1], 1, {"kN", "m"});
+  EXPECT_NE(picture.find("<title>Profile 2: BORING-2, layer 2 of 5</title>"), std::string::npos);
+  EXPECT_NE(picture.find(">&lt;/title&gt;&lt;b&gt; &amp; \xEF\xBF\xBD</text>"), std::string::npos);
+  EXPECT_NE(
+      picture.find(">Sand, friction angle 34.5°, effective stress 4.2 kN/m²; Z level 1.5 m, depth 0.5 m, "
+                   "corrected for scour</text>"),
+      std::string::npos);
+  EXPECT_NE(picture.find(">Q-Z, code 293 (API-93)</text>"), std::string::npos);
+  // P-Y peak 32 at 0.15 D. Drawn are +-1.1 * 0.3 over 242.9 units from 41.1 (the labels are as wide as
+  // "-30"), and
+  // +-1.16 * 32 over 240 units from 8: 41.1 + 0.48 / 0.66 * 242.9 and 41.1 + 0.63 / 0.66 * 242.9; 8 + 5.12
+  // / 74.24 * 240.
+  EXPECT_NE(picture.find("L217.8 24.6L"), std::string::npos) << picture;
+  EXPECT_NE(picture.find("L273.0 24.6L"), std::string::npos) << picture;
+  EXPECT_EQ(count_of("class=\"line\"", picture), 8U) << "two diameters, three kinds and the legend";
+  EXPECT_EQ(picture.find("softening"), std::string::npos);
+  const std::string marked = layer_picture(file.profiles[0], 4, {});
+  EXPECT_EQ(count_of(">S: softening", marked), 1U);
+  EXPECT_NE(marked.find(">Q-Z: no resistance for D = 1, 2.</text>"), std::string::npos);
+  EXPECT_NE(layer_picture(file.profiles[0], 0, {}).find("at or above the scour level"), std::string::npos);
+  profile bent = file.profiles[0];
+  bent.layers[1].of(curve_kind::py)[0].back().stress *= 0.95;
+  EXPECT_NE(
+      layer_picture(bent, 1, {}).find(">P-Y: softening beyond the displacements drawn for D = 1.</text>"),
+      std::string::npos);
+}
+
 std::string usage_of(const std::vector<std::string>& arguments) {
   try {
     const options o = parse_options(arguments);
@@ -80,6 +124,12 @@ TEST(ReportOptions, CommandLines) {
   EXPECT_EQ(usage_of({"--units=MN,m", "--", "-o"}), "-o > TERVAK.html MN/m²");
   EXPECT_EQ(usage_of({"--units", "kN"}), "expected two unit names behind '--units', as in kN,m, found 'kN'");
   EXPECT_EQ(usage_of({"--units=k<,m"}), "expected two unit names behind '--units', as in kN,m, found 'k<,m'");
+  EXPECT_EQ(usage_of({"--svg", "5"}), "TERVAK.RIF > TERVAK.svg run units");
+  EXPECT_EQ(parse_options({"--svg=2/51"}).profile, 2U);
+  EXPECT_EQ(parse_options({"--svg=2/51"}).layer, 51U);
+  for (const std::string text : {"", "0", "2/", "/5", "-1", "2/0", "1/2/3", "12345", "5x"})
+    EXPECT_EQ(usage_of({"--svg", text}),
+              "expected a layer behind '--svg', as in 5, or 2/5 in profile 2, found '" + text + "'");
   EXPECT_EQ(usage_of({"-o"}), "option '-o' expects a value behind it");
   EXPECT_EQ(usage_of({"-x"}), "unknown option '-x'");
   EXPECT_EQ(usage_of({"a", "b"}), "expected one input file, found also 'b'");
@@ -108,9 +158,9 @@ class ReportProgram : public testing::Test {
   }
 
   /// Exit status, a blank, both streams.
-  std::string run(const std::string& arguments) {
+  std::string run(const std::string& arguments, const std::string& before = "") {
     const std::string command =
-        "cd '" + directory_.string() + "' && " TERVAK_REPORT_PROGRAM " " + arguments + " 2>&1";
+        "cd '" + directory_.string() + "' && " + before + TERVAK_REPORT_PROGRAM " " + arguments + " 2>&1";
     std::FILE* pipe = popen(command.c_str(), "r");
     std::string output;
     std::array<char, 512> block{};
@@ -128,6 +178,8 @@ TEST_F(ReportProgram, WritesThePage) {
   EXPECT_EQ(read("TERVAK.html").substr(0, 15), "<!DOCTYPE html>");
   EXPECT_EQ(files(), 2U) << "nothing left beside the page";
   EXPECT_EQ(run("--help").substr(0, 22), "0 usage: tervak-report");
+  EXPECT_EQ(run("--svg 1/3 -o x.svg"), "0 x.svg: profile 1, layer 3\n");
+  EXPECT_EQ(read("x.svg").substr(0, 5), "<?xml");
 }
 
 TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
@@ -137,7 +189,18 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
     EXPECT_EQ(run("-o " + name), "2 tervak-report: '" + name +
                                      "' is the input: the page would replace it; see tervak-report --help\n");
   EXPECT_EQ(read("TERVAK.RIF"), input);
+  EXPECT_EQ(run("--svg 1 -o link").substr(0, 63),
+            "2 tervak-report: 'link' is the input: the picture would replace");
+  EXPECT_EQ(
+      run("--svg 4"),
+      "1 tervak-report: TERVAK.RIF: expected a layer of profile 1 from 1 to 3 behind '--svg', found 4\n");
+  EXPECT_EQ(run("--svg 2/1"),
+            "1 tervak-report: TERVAK.RIF: expected a profile from 1 to 1 behind '--svg', found 2\n");
   write("TERVAK.html", "old");
+  EXPECT_EQ(run("", "trap '' XFSZ; ulimit -f 8; "),
+            "1 tervak-report: TERVAK.html: cannot be written: File too large\n")
+      << "a full disk";
+  EXPECT_EQ(run("--help >/dev/full"), "1 ");
   write("bad.rif", input.substr(0, 5000));
   EXPECT_EQ(run("bad.rif").substr(0, 25), "1 tervak-report: bad.rif:");
   EXPECT_EQ(read("TERVAK.html"), "old");

@@ -33,7 +33,10 @@ GOOD="The run is good: it ended with NORMAL EXIT and status 0."
 real
 expect "a good run" 0 "$GOOD" "stale" "$examples/small-clay.inp" run
 expect "its warnings are shown" 0 "PILE TIP TENSION ALLOWED" "" "$examples/layered-scour.inp" other
+expect "the whole of a warning" 0 "No calculation cmn.method specified" "----------" "$examples/tutorial/tutorial-no-method.inp" third
 expect "pile nodes come along" 0 "$GOOD" "" "$examples/pile-nodes/pile-nodes.inp"
+cp "$examples/pile-nodes/pile-nodes.inp" ./-n.inp
+expect "and those that lie in the directory are told of" 0 "pile nodes: PILEPLOT.TXT of this directory" "" -n.inp pile-nodes
 [ -f pile-nodes/PILEPLOT.TXT ] || { echo "FAILED  no PILEPLOT.TXT in the default directory"; failures=$((failures + 1)); }
 sleep 0.1
 expect "a refused deck, with the earlier file called stale" 1 "TERVAK.RIF is stale" "$GOOD" "$examples/faults/misspelt-keyword.inp" run
