@@ -19,32 +19,25 @@ TEST(Interpolate, Lookups) {
     double XI, YI;
     int IERR;
   } rows[] = {
-      {"one point, any sign", 1, 0, up, Y, 7, 10, 0},
-      {"bad sign", 3, 0, up, Y, 2, FAILED, 1},
-      {"before the first", 3, 1, up, Y, 0, 10, 0},
-      {"on the first", 3, 1, up, Y, 1, 10, 0},
-      {"inside", 3, 1, up, Y, 3, 30, 0},
-      {"hit", 3, 1, up, Y, 2, 20, 0},
-      {"on the last", 3, 1, up, Y, 4, 40, 0},
-      {"behind the last", 3, 1, up, Y, 9, 40, 0},
-      {"N points count", 2, 1, up, Y, 9, 20, 0},
-      {"descending, before the first", 3, -1, down, Y, 9, 10, 0},
+      // clang-format off
+      {"one point, any sign", 1, 0, up, Y, 7, 10, 0}, {"bad sign", 3, 0, up, Y, 2, FAILED, 1},
+      {"before the first", 3, 1, up, Y, 0, 10, 0}, {"on the first", 3, 1, up, Y, 1, 10, 0},
+      {"inside", 3, 1, up, Y, 3, 30, 0}, {"hit", 3, 1, up, Y, 2, 20, 0},
+      {"on the last", 3, 1, up, Y, 4, 40, 0}, {"behind the last", 3, 1, up, Y, 9, 40, 0},
+      {"N points count", 2, 1, up, Y, 9, 20, 0}, {"descending, before the first", 3, -1, down, Y, 9, 10, 0},
       {"descending, on the first", 3, -1, down, Y, 4, 10, 0},
-      {"descending, inside", 3, -1, down, Y, 3, 15, 0},
-      {"descending, hit", 3, -1, down, Y, 2, 20, 0},
+      {"descending, inside", 3, -1, down, Y, 3, 15, 0}, {"descending, hit", 3, -1, down, Y, 2, 20, 0},
       {"descending, on the last", 3, -1, down, Y, 1, 40, 0},
-      {"descending, behind the last", 3, -1, down, Y, 0, 40, 0},
-      {"wrong order", 3, 1, down, Y, 2, FAILED, 2},
-      {"wrong order, descending", 3, -1, up, Y, 2, FAILED, 3},
-      {"no span", 2, 1, level, Y, 3, FAILED, 2},
+      {"descending, behind the last", 3, -1, down, Y, 0, 40, 0}, {"wrong order", 3, 1, down, Y, 2, FAILED, 2},
+      {"wrong order, descending", 3, -1, up, Y, 2, FAILED, 3}, {"no span", 2, 1, level, Y, 3, FAILED, 2},
       {"no span, descending", 2, -1, level, Y, 3, FAILED, 3},
       {"span at the tolerance", 2, 1, thin, Y, 1, FAILED, 2},
       {"span above the tolerance", 2, 1, wide, Y, 1, 20, 0},
-      {"disorder ahead", 4, 1, broken, four, 2, 1.5, 0},
-      {"disorder met", 4, 1, broken, four, 4, FAILED, 2},
+      {"disorder ahead", 4, 1, broken, four, 2, 1.5, 0}, {"disorder met", 4, 1, broken, four, 4, FAILED, 2},
       {"disorder unseen at the end", 4, 1, broken, four, 5, 4, 0},
       {"disorder met, descending", 4, -1, broken_down, four, 2, FAILED, 3},
       {"disorder ahead, descending", 4, -1, broken_down, four, 4, 1.5, 0},
+      // clang-format on
   };
   for (const auto& r : rows) {
     double YI = 0;

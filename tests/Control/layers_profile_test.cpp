@@ -1,6 +1,8 @@
 // Stress, loads, strength and depth of the layers, in both revisions, worked by hand.
 
-#include <cmath>
+#include <string>
+#include <tuple>
+#include <vector>
 
 #include "Control/BUILD.hpp"
 #include "Control/build5.hpp"
@@ -30,67 +32,44 @@ class LayerProfile : public scratch_run {
       cmn.ZLAY.append(MIDBOT == 1 ? (bottoms(i) + (i == 1 ? 0 : bottoms(i - 1))) / 2 : bottoms(i));
     }
   }
-  void expect(const char* what, const vector1<double>& got, std::initializer_list<double> expected) {
+  static void expect(const char* what, const vector1<double>& got, const std::vector<double>& expected) {
     int i = 0;
     for (const double value : expected) EXPECT_NEAR(got(++i), value, 1e-5) << what << " " << i;
   }
 };
 
-TEST_F(LayerProfile, OverburdenWithWater) {
+TEST_F(LayerProfile, StressAndDepthWithWaterAndScour) {
   const struct {
     const char* what;
-    double ZPWP;
+    vector1<double> bottoms;
     int MIDBOT;
-    double GAMEFF1, GAMEFF2, SIGZRES1, SIGZRES2;
+    double ZPWP, SCRGEN, SCRLOC, SCRSLP;
+    std::vector<double> GAMEFF, SIGZRES, DEPTH;
   } rows[] = {
-      {"under water", 0, 1, 8, 10, 16, 62},
-      {"water from within layer 1", 1, 1, 10.5, 10, 26, 72},
-      {"water from within layer 2", 7, 1, 18, 15, 36, 132},
-      {"dry", 20, 1, 18, 20, 36, 132},
-      {"levels at bottoms", 0, 2, 8, 10, 32, 92},
+      // clang-format off
+      {"under water", {4, 10}, 1, 0, 0, 0, 0, {8, 10}, {16, 62}, {2, 7}},
+      {"water from within layer 1", {4, 10}, 1, 1, 0, 0, 0, {10.5, 10}, {26, 72}, {}},
+      {"water from within layer 2", {4, 10}, 1, 8, 0, 0, 0, {18, 100 / 6.0}, {36, 132}, {}},
+      {"dry", {4, 10}, 1, 20, 0, 0, 0, {18, 20}, {36, 132}, {}},
+      {"levels at bottoms", {4, 10}, 2, 0, 0, 0, 0, {8, 10}, {32, 92}, {4, 10}},
+      // Relief length 2 m; depth: twice the plain depth of 1, the plain depth of 5 and 2.
+      {"one layer scoured", {3, 5, 11}, 1, 0, 1, 3, 45, {}, {0, 17.091577, 62.143901}, {-1.5, 2, 7}},
+      // Lost: 1 m at 8 and 1 m at 10; level 3.5 from 3 at 10.
+      {"two layers scoured", {2, 5, 11}, 1, 0, 1, 3, 45, {}, {0, 5 + 18 * 0.2538255, 47 + 18 * 0.9464938}, {-2, 1, 7}},
+      {"relief length a thousandth of the diameter", {3, 5, 11}, 1, 0, 1, 3, 89.999, {}, {0, 26, 63}, {-1.5, 3, 7}},
+      {"no slope, no relief", {3, 5, 11}, 1, 0, 1, 3, 0, {}, {0, 10, 47}, {-1.5, 1, 5}},
+      {"general scour only", {3, 5, 11}, 1, 0, 3, 3, 0, {}, {0, 10, 47}, {-1.5, 1, 5}},
+      // clang-format on
   };
-  for (const auto& r : rows) {
-    make({4.0, 10.0}, r.MIDBOT);
-    cmn.ZPWP = r.ZPWP;
+  for (const auto& [what, bottoms, MIDBOT, ZPWP, SCRGEN, SCRLOC, SCRSLP, GAMEFF, SIGZRES, DEPTH] : rows) {
+    make(bottoms, MIDBOT);
+    std::tie(cmn.ZPWP, cmn.SCRGEN, cmn.SCRLOC, cmn.SCRSLP) = std::tie(ZPWP, SCRGEN, SCRLOC, SCRSLP);
     BUILD5(cmn, 2);
-    expect(r.what, cmn.GAMEFF, {r.GAMEFF1, r.GAMEFF2});
-    expect(r.what, cmn.SIGZRES, {r.SIGZRES1, r.SIGZRES2});
-    expect("depth is below the sea floor", cmn.DEPTH, {cmn.ZLAY(1), cmn.ZLAY(2)});
+    expect(what, cmn.GAMEFF, GAMEFF);
+    expect(what, cmn.SIGZRES, SIGZRES);
+    expect(what, cmn.DEPTH, DEPTH);
   }
-  EXPECT_EQ(cmn.IERR, 0);
   EXPECT_EQ(printed(18), "");
-}
-
-TEST_F(LayerProfile, ScourRelief) {
-  cmn.SCRGEN = 1;
-  cmn.SCRLOC = 3;
-  cmn.SCRSLP = 45;  // relief length 2 m
-  make({3.0, 5.0, 11.0});
-  BUILD5(cmn, 2);
-  expect("stress, one layer scoured", cmn.SIGZRES, {0, 17.091577, 62.143901});
-  expect("depth", cmn.DEPTH, {-1.5, 2, 7});  // twice the plain depth of 1; the plain depth of 5 and 2
-
-  make({2.0, 5.0, 11.0});  // lost: 1 m at 8 and 1 m at 10; level 3.5 from 3 at 10
-  BUILD5(cmn, 2);
-  expect("stress, two layers scoured", cmn.SIGZRES,
-         {0, 5 + (1 - std::pow(0.31, 0.25)) * 18, 47 + (1 - std::pow(0.31, 2.5)) * 18});
-
-  cmn.SCRSLP = 89.999;  // steep: the relief length is a thousandth of the diameter
-  make({3.0, 5.0, 11.0});
-  BUILD5(cmn, 2);
-  expect("stress, steep", cmn.SIGZRES, {0, 26, 63});
-  expect("depth, steep", cmn.DEPTH, {-1.5, 3, 7});
-
-  cmn.SCRSLP = 0;  // no slope: no relief
-  make({3.0, 5.0, 11.0});
-  BUILD5(cmn, 2);
-  expect("stress without slope", cmn.SIGZRES, {0, 10, 47});
-  expect("depth without slope", cmn.DEPTH, {-1.5, 1, 5});
-
-  cmn.SCRGEN = 3;  // general scour only
-  make({3.0, 5.0, 11.0});
-  BUILD5(cmn, 2);
-  expect("general scour", cmn.SIGZRES, {0, 10, 47});
 }
 
 TEST_F(LayerProfile, SurfaceLoads) {
@@ -107,12 +86,12 @@ TEST_F(LayerProfile, SurfaceLoads) {
       {"embankment, vertical edge at the pile", 0, 100, 0, 0, 0, 0, 0, 0, 50},
       {"all", 7, 100, 3, 1, 100, 3, 1000, 3, 84.844450},
   };
+  cmn.SCRGEN = 1;
+  cmn.SCRLOC = 3;
   for (const auto& r : rows) {
-    cmn.SCRGEN = 1;
-    cmn.SCRLOC = 3;
     make({3.0, 7.0});
-    cmn.SIGSUR = r.SIGSUR, cmn.SIGEMB = r.SIGEMB, cmn.AEMB = r.AEMB, cmn.BEMB = r.BEMB;
-    cmn.SIGCIR = r.SIGCIR, cmn.RADCIR = r.RADCIR;
+    std::tie(cmn.SIGSUR, cmn.SIGEMB, cmn.AEMB, cmn.BEMB, cmn.SIGCIR, cmn.RADCIR) =
+        std::tie(r.SIGSUR, r.SIGEMB, r.AEMB, r.BEMB, r.SIGCIR, r.RADCIR);
     cmn.NUMFRC = r.FRCPNT > 0 ? 2 : 0;  // in two halves
     cmn.FRCPNT = {r.FRCPNT / 2, r.FRCPNT / 2, 0};
     cmn.FRCDST = {r.FRCDST, -r.FRCDST, 0};
@@ -139,8 +118,7 @@ TEST_F(LayerProfile, StrengthAndClayList) {
 }
 
 TEST_F(LayerProfile, FailuresAndWarningsNameTheRoutine) {
-  for (const bool five : {true, false}) {
-    const std::string name = five ? "BUILD5" : "BUILD";
+  for (const std::string name : {"BUILD5", "BUILD"}) {
     const auto build = [&](double GAMTOT, double SU0, double PHI) {
       cmn.units.close_unit(18, nullptr, true);
       cmn.IERR = 0;
@@ -148,47 +126,38 @@ TEST_F(LayerProfile, FailuresAndWarningsNameTheRoutine) {
       cmn.GAMTOT(1) = GAMTOT;
       cmn.SU0(1) = SU0;
       cmn.PHI(1) = PHI;
-      five ? BUILD5(cmn, 2) : BUILD(cmn);
+      name == "BUILD5" ? BUILD5(cmn, 2) : BUILD(cmn);
       return printed(18);
     };
+    const std::string warning = "\n WARNING FROM SR/" + name + " : LAY,GAMEFF=    1     0.000\n",
+                      error = "\n **** SR/" + name + " : ",
+                      negative = "NEGATIVE SU VALUE CALCULATED\n LAY,TYP,SU0,SU100,ZLAY,SU=    1    1";
     EXPECT_EQ(build(18, -1.0E-11, 30), "");
     EXPECT_NE(build(18, -1.1E-10, 30), "");
-    EXPECT_EQ(build(18, -1, 0), "\n **** SR/" + name +
-                                    " : NEGATIVE SU VALUE CALCULATED\n LAY,TYP,SU0,SU100,ZLAY,SU=    1    1"
-                                    "    -1.000     0.000     2.000    -0.980\n");
+    EXPECT_EQ(build(18, -1, 0), error + negative + "    -1.000     0.000     2.000    -0.980\n");
     EXPECT_EQ(cmn.IERR, 1);
     EXPECT_EQ(cmn.DEPTH(1), 0.0) << "later steps are left undone";
-    EXPECT_EQ(
-        build(18, 1, 30),
-        "\n **** SR/" + name + " : BOTH PHI AND SU ARE NON-ZERO\n LAY,PHI,SU=    1    30.000     0.980\n");
+    EXPECT_EQ(build(18, 1, 30),
+              error + "BOTH PHI AND SU ARE NON-ZERO\n LAY,PHI,SU=    1    30.000     0.980\n");
     EXPECT_EQ(cmn.IERR, 1);
-    const std::string warning = "\n WARNING FROM SR/" + name + " : LAY,GAMEFF=    1     0.000\n";
     EXPECT_EQ(build(10, 0, 30), warning);
     EXPECT_EQ(cmn.IERR, 0);
-    EXPECT_EQ(build(10 + 2.0E-12, 0, 30), five ? "" : warning);
+    EXPECT_EQ(build(10 + 2.0E-12, 0, 30), name == "BUILD5" ? "" : warning);
     EXPECT_EQ(build(10 + 2.0E-10, 0, 30), "");
   }
 }
 
 TEST_F(LayerProfile, Revision4LevelsAndShearModuli) {
-  make({4.0, 10.0, 12.0}, 2);
-  cmn.ZLAY.clear();
-  BUILD(cmn);
-  expect("levels at bottoms", cmn.ZLAY, {4, 10, 12});
-
-  cmn.SCRGEN = cmn.SCRLOC = 0;
   cmn.NUMTQZ = 8;
   make({4.0, 10.0, 12.0});
   cmn.ZLAY.clear();
   cmn.ATMPRS = 100;
-  cmn.SU0 = {20, 0, 20};
-  cmn.SU100 = {20, 0, 20};
+  cmn.SU0 = cmn.SU100 = {20, 0, 20};
   cmn.PHI = {0, 35, 0};
   cmn.OCR = {0, 0, 2};
   cmn.ZTQZ = {0, 4, 4.1, 10, 11, 50, 3, 5};
   cmn.G0SOIL = {0, -2, 0, 77, 0, -0.5, 1.0E-11, -1};
-  for (int j = 1; j <= 8; ++j) cmn.POIS(j) = 0.3;
-  cmn.POIS(8) = 0.5;
+  cmn.POIS = {0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.5};
   BUILD(cmn);
   expect("levels in the middle", cmn.ZLAY, {2, 7, 11});
   // Clay 1: 4 * 20 / 16 = 5, so 300 - 85 * 2 = 130. Sand: 21205.5372 at 62 kPa. Clay 3: 300 - 85 = 215.
@@ -196,12 +165,10 @@ TEST_F(LayerProfile, Revision4LevelsAndShearModuli) {
 
   cmn.SCRGEN = cmn.SCRLOC = 8;  // no stress: clay 1 counts as OCR 10, sand keeps EPS
   make({4.0, 10.0});
-  cmn.ZLAY.clear();
-  cmn.NUMTQZ = 2;
-  cmn.SU0 = {20, 0};
-  cmn.SU100 = {20, 0};
+  cmn.SU0 = cmn.SU100 = {20, 0};
   cmn.PHI = {0, 35};
   cmn.ZTQZ = {1, 5};
+  cmn.NUMTQZ = 2;
   BUILD(cmn);
   EXPECT_NEAR(cmn.G0SOIL(1), 1000, 1e-9);
   EXPECT_EQ(cmn.G0SOIL(2), cmn.EPS);

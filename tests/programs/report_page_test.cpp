@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "programs/sample_rif.hpp"
 #include "report/layer_picture.hpp"
@@ -15,6 +13,7 @@
 #include "report/read_interface_file.hpp"
 #include "report/svg_plot.hpp"
 #include "report/text.hpp"
+#include "support/work_directory.hpp"
 
 namespace tervak::report {
 namespace {
@@ -136,59 +135,41 @@ TEST(ReportOptions, CommandLines) {
 }
 
 /// Runs the program in a directory of its own.
-class ReportProgram : public testing::Test {
+class ReportProgram : public testing::Test, public work_directory {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "tervak-report-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    directory_ = pattern;
-    write("TERVAK.RIF", sample::rif());
-  }
-  void TearDown() override { fs::remove_all(directory_); }
+  ReportProgram() { put("TERVAK.RIF", sample::rif()); }
 
-  void write(const std::string& name, const std::string& text) { std::ofstream(directory_ / name) << text; }
-  std::string read(const std::string& name) {
-    std::ostringstream text;
-    text << std::ifstream(directory_ / name).rdbuf();
-    return text.str();
+  static std::size_t files() {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator("."), fs::directory_iterator()));
   }
-  std::size_t files() {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(directory_), fs::directory_iterator()));
-  }
-
   /// Exit status, a blank, both streams.
-  std::string run(const std::string& arguments, const std::string& before = "") {
-    const std::string command =
-        "cd '" + directory_.string() + "' && " + before + TERVAK_REPORT_PROGRAM " " + arguments + " 2>&1";
-    std::FILE* pipe = popen(command.c_str(), "r");
+  static std::string run(const std::string& arguments, const std::string& before = "") {
+    std::FILE* pipe = popen((before + TERVAK_REPORT_PROGRAM " " + arguments + " 2>&1").c_str(), "r");
     std::string output;
     std::array<char, 512> block{};
     while (std::fgets(block.data(), block.size(), pipe) != nullptr) output += block.data();
     return std::to_string(WEXITSTATUS(pclose(pipe))) + " " + output;
   }
-
-  fs::path directory_;
 };
 
 TEST_F(ReportProgram, WritesThePage) {
   EXPECT_EQ(
       run(""),
       "0 TERVAK.html: profiles 1, layers 3; curves with softening 2, with near-vertical pieces 2, zero 0\n");
-  EXPECT_EQ(read("TERVAK.html").substr(0, 15), "<!DOCTYPE html>");
+  EXPECT_EQ(get("TERVAK.html").substr(0, 15), "<!DOCTYPE html>");
   EXPECT_EQ(files(), 2U) << "nothing left beside the page";
   EXPECT_EQ(run("--help").substr(0, 22), "0 usage: tervak-report");
   EXPECT_EQ(run("--svg 1/3 -o x.svg"), "0 x.svg: profile 1, layer 3\n");
-  EXPECT_EQ(read("x.svg").substr(0, 5), "<?xml");
+  EXPECT_EQ(get("x.svg").substr(0, 5), "<?xml");
 }
 
 TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
-  const std::string input = read("TERVAK.RIF");
-  fs::create_hard_link(directory_ / "TERVAK.RIF", directory_ / "link");
+  const std::string input = get("TERVAK.RIF");
+  fs::create_hard_link("TERVAK.RIF", "link");
   for (const std::string name : {"TERVAK.RIF", "./TERVAK.RIF", "link"})
     EXPECT_EQ(run("-o " + name), "2 tervak-report: '" + name +
                                      "' is the input: the page would replace it; see tervak-report --help\n");
-  EXPECT_EQ(read("TERVAK.RIF"), input);
+  EXPECT_EQ(get("TERVAK.RIF"), input);
   EXPECT_EQ(run("--svg 1 -o link").substr(0, 63),
             "2 tervak-report: 'link' is the input: the picture would replace");
   EXPECT_EQ(
@@ -196,18 +177,18 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
       "1 tervak-report: TERVAK.RIF: expected a layer of profile 1 from 1 to 3 behind '--svg', found 4\n");
   EXPECT_EQ(run("--svg 2/1"),
             "1 tervak-report: TERVAK.RIF: expected a profile from 1 to 1 behind '--svg', found 2\n");
-  write("TERVAK.html", "old");
+  put("TERVAK.html", "old");
   EXPECT_EQ(run("", "trap '' XFSZ; ulimit -f 8; "),
             "1 tervak-report: TERVAK.html: cannot be written: File too large\n")
       << "a full disk";
   EXPECT_EQ(run("--help >/dev/full"), "1 ");
-  write("bad.rif", input.substr(0, 5000));
+  put("bad.rif", input.substr(0, 5000));
   EXPECT_EQ(run("bad.rif").substr(0, 25), "1 tervak-report: bad.rif:");
-  EXPECT_EQ(read("TERVAK.html"), "old");
+  EXPECT_EQ(get("TERVAK.html"), "old");
   EXPECT_EQ(run("none.rif"), "1 tervak-report: none.rif: cannot be opened: No such file or directory\n");
   EXPECT_EQ(run("-o none/x.html"),
             "1 tervak-report: none/x.html.part0: cannot be created: No such file or directory\n");
-  fs::create_directory(directory_ / "there");
+  fs::create_directory("there");
   EXPECT_EQ(run("-o there"),
             "1 tervak-report: there: something other than a regular file stands there, it is left alone\n");
   EXPECT_EQ(run("there"), "1 tervak-report: there: expected a regular file\n");

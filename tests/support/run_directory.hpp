@@ -12,37 +12,25 @@
 
 #include <gtest/gtest.h>
 
+#include "support/work_directory.hpp"
+
 /// A directory of its own in which a test runs the built program and looks at what is left behind.
-class run_directory {
+class run_directory : public work_directory {
  public:
-  run_directory() {
-    std::string name = (std::filesystem::temp_directory_path() / "tervak-run-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) std::abort();
-    path_ = name;
-  }
-  ~run_directory() {
-    std::error_code ignored;
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-    std::filesystem::remove_all(path_, ignored);
-  }
-  run_directory(const run_directory&) = delete;
-  run_directory& operator=(const run_directory&) = delete;
+  ~run_directory() { permit(std::filesystem::perms::owner_all); }
 
   [[nodiscard]] std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
   [[nodiscard]] bool has(const std::string& name) const { return std::filesystem::exists(path_ / name); }
 
-  void write(const std::string& name, const std::string& text) const {
-    std::ofstream(path_ / name, std::ios::binary) << text;
-  }
+  void write(const std::string& name, const std::string& text) const { put(path_ / name, text); }
   /// The deck under both its names.
   void deck(const std::string& text) const {
     write("TERVAK.INP", text);
     write("tervak.inp", text);
   }
   [[nodiscard]] std::string read(const std::string& name) const {
-    std::ifstream in(path_ / name, std::ios::binary);
-    EXPECT_TRUE(in.is_open()) << name;
-    return {std::istreambuf_iterator<char>(in), {}};
+    EXPECT_TRUE(has(name)) << name;
+    return get(path_ / name);
   }
 
   /// Runs the program here and returns its exit status, as the shell sees it (-1 is 255). Standard output and
@@ -66,12 +54,14 @@ class run_directory {
   }
 
   /// Lets the other user write here.
-  void open_to_all() const { std::filesystem::permissions(path_, std::filesystem::perms::all); }
+  void open_to_all() const { permit(std::filesystem::perms::all); }
 
  private:
   [[nodiscard]] std::string redirect(const std::string& name) const { return (path_ / name).string(); }
 
-  std::filesystem::path path_;
+  void permit(std::filesystem::perms perms) const { std::filesystem::permissions(path_, perms); }
+
+  std::filesystem::path path_ = std::filesystem::current_path();
 };
 
 inline std::string example(const std::string& name) {
