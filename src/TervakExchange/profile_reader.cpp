@@ -143,7 +143,8 @@ void profile_reader::read_unknown(const deck_statement& line) {
   const nearest_keyword nearest = at ? nearest_keyword{} : find_nearest(word.text, draft_.profile.version);
   if (!comma_hint(word.text).empty())
     text += comma_hint(word.text);
-  else if (at || nearest.keyword)
+  else if (at || nearest.sure ||
+           (nearest.keyword && (line.fields.size() < 2 || opens_number(line.fields[1].text.front()))))
     text += "; did you mean " + std::string(at ? "AT" : nearest.keyword->name) + "?";
   // One mistake, one fault: what the word means is not missing too, and the rows behind it are passed over.
   if (nearest.sure) draft_.use(*nearest.keyword).meant = true;
