@@ -1,9 +1,8 @@
 #include "Control/run_files.hpp"
 
-#include <algorithm>
 #include <cstdio>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <string>
 
 #include "fem/file_positioning_chain.hpp"
@@ -27,9 +26,11 @@ void open_run_file(common& cmn, int unit, const char* name, const char* status) 
 }
 
 bool same_content(const char* one, const char* other) {
-  std::ifstream a(one, std::ios::binary), b(other, std::ios::binary);
-  using bytes = std::istreambuf_iterator<char>;
-  return std::equal(bytes(a), bytes(), bytes(b), bytes());
+  // A stream's inserter takes a name that cannot be read, such as a directory, for an empty file.
+  std::ostringstream a, b;
+  a << std::ifstream(one, std::ios::binary).rdbuf();
+  b << std::ifstream(other, std::ios::binary).rdbuf();
+  return a.str() == b.str();
 }
 
 void close_run_files(common& cmn) {

@@ -123,6 +123,10 @@ TEST(ExitStatus, ACopyOfTheDeckThatWasForgottenIsTold) {
   directory.write("TERVAK.INP", small_deck() + "\n");
   ASSERT_EQ(directory.run(), 0);
   EXPECT_NE(directory.read("TERVAK.MLG").find(warning), std::string::npos);
+  std::filesystem::remove(directory / "TERVAK.INP");
+  std::filesystem::create_directory(directory / "TERVAK.INP");
+  EXPECT_EQ(directory.run(), 0);
+  EXPECT_NE(directory.read("TERVAK.MLG").find(warning), std::string::npos);
 }
 
 TEST(ExitStatus, ThePrintLevelSaysWhatTheListingHolds) {
