@@ -7,7 +7,7 @@
 #include <sstream>
 #include <vector>
 
-#include "IO/DataGroup.hpp"
+#include "IO/interface_file/DataGroup.hpp"
 #include "ratio.hpp"
 
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Control/Interpolate.hpp"
-#include "Control/sp.hpp"
+#include "Control/state/Interpolate.hpp"
+#include "Control/state/sp.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Control/sp.hpp"
+#include "Control/state/sp.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
 

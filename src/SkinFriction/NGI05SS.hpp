@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control/common.hpp"
+#include "Control/state/common.hpp"
 
 namespace tervak {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Control/Interpolate.hpp"
-#include "Control/report.hpp"
-#include "Control/shear_modulus.hpp"
-#include "Control/sp.hpp"
+#include "Control/state/Interpolate.hpp"
+#include "Control/state/report.hpp"
+#include "Control/state/shear_modulus.hpp"
+#include "Control/state/sp.hpp"
 
 namespace tervak {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Control/Interpolate.hpp"
-#include "Control/report.hpp"
-#include "Control/sp.hpp"
+#include "Control/state/Interpolate.hpp"
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
 #include "TipResistance/tip_constants.hpp"
 
 namespace tervak {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Control/report.hpp"
-#include "Control/sp.hpp"
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
 #include "TipResistance/tip_checks.hpp"
 #include "TipResistance/tip_constants.hpp"
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "Control/report.hpp"
-#include "Control/sp.hpp"
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
 #include "TipResistance/tip_checks.hpp"
 #include "TipResistance/tip_constants.hpp"
 

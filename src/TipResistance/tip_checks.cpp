@@ -1,6 +1,6 @@
 #include "TipResistance/tip_checks.hpp"
 
-#include "Control/sp.hpp"
+#include "Control/state/sp.hpp"
 #include "TipResistance/tip_constants.hpp"
 
 namespace tervak {

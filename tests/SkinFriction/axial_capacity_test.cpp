@@ -1,6 +1,6 @@
 // Which method runs for which layer, what it is given, and what its failure prints.
 
-#include "Control/AxialCapacityControl.hpp"
+#include "Control/axial/AxialCapacityControl.hpp"
 #include "support/scratch_run.hpp"
 
 namespace tervak {

@@ -9,9 +9,9 @@ trap 'rm -rf "$work"' EXIT
 list() { sed -n "/ $2\[\] = /,/};/p" "../src/TervakExchange/$1" | grep -oE "$3[A-Z0-9]+" | grep -oE '[A-Z0-9]+$'; }
 {
   list deck_scalars.cpp SCALARS '\{"'; list deck_curves.cpp CURVES '\{"'; list deck_tables.cpp TABLES '&'
-  grep -oE '[PTQ][YZ]_CODES.*\}' ../src/IO/curve_codes.hpp | sed 's/^./&-/' | tr -c 'A-Z0-9\n-' ' ' | awk '{
+  grep -oE '[PTQ][YZ]_CODES.*\}' ../src/IO/input/curve_codes.hpp | sed 's/^./&-/' | tr -c 'A-Z0-9\n-' ' ' | awk '{
     of = $3 ~ /^[45]$/ ? " revision " $3 : ""; for (i = of ? 4 : 3; i <= NF; ++i) print $1 " " $i of }'
-  most=$(grep -oE 'method > [0-9]+' ../src/IO/skin_friction.cpp | grep -oE '[0-9]+')
+  most=$(grep -oE 'method > [0-9]+' ../src/IO/input/skin_friction.cpp | grep -oE '[0-9]+')
   for method in $(seq 0 "$most"); do printf "METHOD $method %s\n" clay sand; done
 } >"$work/wanted"
 

@@ -80,7 +80,7 @@ check() { # document, file of formats, file of monopile pieces; prints what is w
 }
 
 cd "$root"
-mapfile -t files < <(find src -name '*.[ch]pp' ! -path '*/IO/PRINT*' ! -name G2USFOS_soilchar.cpp ! -name identification.cpp | sort)
+mapfile -t files < <(find src -name '*.[ch]pp' ! -path '*/IO/listing/PRINT*' ! -name G2USFOS_soilchar.cpp ! -name identification.cpp | sort)
 literals "${files[@]}" >"$work/formats"
 literals src/SoilCurves/monopile/*.[ch]pp | grep -v '	(' >"$work/monopile"
 [ -s "$work/monopile" ] || { echo "no monopile texts found"; exit 1; }

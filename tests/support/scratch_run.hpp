@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Control/common.hpp"
+#include "Control/state/common.hpp"
 #include "fem/errors.hpp"
 #include "support/work_directory.hpp"
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Control/common.hpp"
+#include "Control/state/common.hpp"
 #include "support/work_directory.hpp"
 
 /// A small valid layer for tests of the curves, in kN and m: a run state of revision 5 with the given

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IO/TervakUnitConverter.hpp"
+#include "IO/units/TervakUnitConverter.hpp"
 #include "SoilCurves/monopile/MonoPileKind.hpp"
 #include "TervakExchange/TervakInputData.hpp"
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "Control/common.hpp"
+#include "Control/state/common.hpp"
 #include "SoilCurves/monopile/IMonoPileDataProvider.hpp"
 #include "SoilCurves/monopile/MonoPileInputDataProvider.hpp"
 

@@ -3,9 +3,9 @@
 #include <sstream>
 
 #include "fem/write.hpp"
-#include "SoilCurves/first_live_layer.hpp"
 #include "SoilCurves/monopile/manual_checks.hpp"
 #include "SoilCurves/monopile/MonoPileDataBuilder.hpp"
+#include "SoilCurves/store/first_live_layer.hpp"
 
 namespace Varno::TervakLibrary::SoilCurves {
 

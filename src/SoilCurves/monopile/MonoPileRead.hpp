@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "Control/common.hpp"
+#include "Control/state/common.hpp"
 #include "SoilCurves/monopile/IMonoPileDataProvider.hpp"
 #include "TervakExchange/Tervak.hpp"
 

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "Control/common.hpp"
+#include "Control/state/common.hpp"
 #include "SoilCurves/monopile/MonoPileData.hpp"
 
 namespace Varno::TervakLibrary::SoilCurves {

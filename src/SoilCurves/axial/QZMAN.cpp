@@ -1,0 +1,14 @@
+#include "SoilCurves/axial/QZMAN.hpp"
+
+#include "SoilCurves/axial/manual_axial_curve.hpp"
+
+namespace tervak {
+
+void QZMAN(common& cmn, int NL, int ND) {
+  lay_manual_curve(
+      cmn, qz_curves(cmn), NL, ND, cmn.SFSIGT,
+      {"(/,' **** SR/QZMAN : GIVEN MANUAL Q-Z CURVE DOES NOT',' PASS ORIGIN',/,' LAYER,NDIAM =',2i5)",
+       "(/,' **** SR/QZMAN  MAXIMUM NUMBER OF CURVE POINTS ON ONE SIDE OF ORIGIN EXCEEDED ,MAX,LEFT,RIGHT=',3i5)"});
+}
+
+}  // namespace tervak

@@ -1,0 +1,14 @@
+#include "SoilCurves/axial/TZMAN.hpp"
+
+#include "SoilCurves/axial/manual_axial_curve.hpp"
+
+namespace tervak {
+
+void TZMAN(common& cmn, int NL, int ND) {
+  lay_manual_curve(
+      cmn, tz_curves(cmn), NL, ND, cmn.SFSKF,
+      {"(/,' **** SR/TZMAN : GIVEN MANUAL T-Z CURVE DOES NOT',' PASS ORIGIN',/,' LAYER,NDIAM =',2i5)",
+       "(/,' **** SR/TZMAN  MAXIMUM NUMBER OF CURVE POINTS ON ONE SIDE OF ORIGIN EXCEEDED ,MAX,LEFT,RIGHT=',3i5)"});
+}
+
+}  // namespace tervak

@@ -1,0 +1,44 @@
+#include "SoilCurves/py/API14.hpp"
+
+#include "SoilCurves/py/py_frame.hpp"
+#include "SoilCurves/py/soft_clay_curve.hpp"
+#include "SoilCurves/py/stiff_clay_curve.hpp"
+#include "SoilCurves/py/tanh_sand_curve.hpp"
+
+namespace tervak {
+
+namespace {
+
+constexpr double ZTOL = 1.0E-12;
+
+constexpr py_method METHOD{
+    2014,
+    "(/,' **** SR/API14 : ERROR FROM SR/APILAT  NL,ND,IERR=',3i5)",
+    "(/,' **** SR/API14 : ERROR FROM SR/PYRCK  NL,ND,IERR=',3i5)",
+    "(/,' **** SR/API14 : ERROR FROM SR/INTPOL  IERR=',i5)",
+};
+
+const vector1<double> ANGLES{0.0, 20.0, 25.0, 30.0, 35.0, 40.0, 45.0};
+const vector1<double> MODULI{0.0, 537.0, 537.0, 1094.0, 2189.0, 4476.0, 5974.0};
+
+void sand(common& cmn, const py_layer& layer) {
+  const auto PU = ultimate_resistance(cmn, layer, METHOD, 0.0);
+  if (!PU) return;
+  const double KSOIL = cmn.KSOILM(layer.TYP);
+  const auto KV = KSOIL > ZTOL ? std::optional(KSOIL / cmn.GAMWAT)
+                               : modulus_from_table(cmn, layer, METHOD, ANGLES, MODULI);
+  if (KV) tanh_sand_curve(cmn, layer, *PU, *KV, ZTOL);
+}
+
+}  // namespace
+
+void API14(common& cmn, int NL, int ND) {
+  const auto layer = open_py(cmn, NL, ND, ZTOL);
+  if (!layer) return;
+  if (cmn.PHIR(NL) > ZTOL) return sand(cmn, *layer);
+  if (cmn.SURED(NL) > cmn.SUSTIF) return stiff_clay_curve(cmn, *layer, METHOD);
+  if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
+    soft_clay_curve_7(cmn, *layer, *PU);
+}
+
+}  // namespace tervak

@@ -1,0 +1,94 @@
+#include "SoilCurves/py/API84.hpp"
+
+#include <cmath>
+
+#include "Control/state/Interpolate.hpp"
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
+#include "SoilCurves/py/py_frame.hpp"
+#include "SoilCurves/py/soft_clay_curve.hpp"
+#include "SoilCurves/py/stiff_clay_curve.hpp"
+#include "SoilCurves/store/curve_store.hpp"
+
+namespace tervak {
+
+namespace {
+
+constexpr py_method METHOD{
+    1984,
+    "(/,' **** SR/API84 : ERROR FROM SR/APILAT  NL,ND,IERR=',3i5)",
+    "(/,' **** SR/API84 : ERROR FROM SR/PYRCK  NL,ND,IERR=',3i5)",
+    "(/,' **** SR/API84 : ERROR FROM SR/KestraCommonLibrary::Utils::Interpolate(  IERR=',i5)",
+};
+
+const vector1<double> DEPTH_RATIO{0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0};
+const vector1<double> A_STATIC{2.91, 2.1, 1.46, 1.07, 0.9, 0.88, 0.88};
+const vector1<double> A_CYCLIC{0.78, 1.08, 1.04, 0.94, 0.91, 0.88, 0.88};
+const vector1<double> B_STATIC{2.15, 1.54, 1.05, 0.72, 0.52, 0.5, 0.5};
+const vector1<double> B_CYCLIC{0.54, 0.82, 0.83, 0.69, 0.56, 0.55, 0.55};
+
+bool find_factor(common& cmn, const py_layer& layer, const vector1<double>& row, double& factor) {
+  KestraCommonLibrary::Utils::Interpolate(7, 1, DEPTH_RATIO, row, layer.H / layer.D, factor, cmn.IERR);
+  if (cmn.IERR == 0) return true;
+  fail(cmn, 1, METHOD.lookup, cmn.IERR);
+  return false;
+}
+
+double parabola_exponent(common& cmn, const py_layer& layer, const py_point& M, const py_point& U) {
+  double DP = U.P - M.P;
+  if (std::abs(DP) < cmn.EPS) DP = cmn.EPS;
+  const double EXPN = ((U.Y - M.Y) * M.P / M.Y) / DP;
+  if (!(EXPN < sp(1.01f))) return EXPN;
+  remark(
+      cmn,
+      "(/,' WARNING FROM SR/API84 : ND,NL,EXPN=',2i5,e12.4,/,' ABOVE EXPONENT VALUE WAS REPLACED BY 1.01')",
+      layer.ND, layer.NL, EXPN);
+  return sp(1.01f);
+}
+
+/// Line of slope K * H / D to (YK, ...), parabola to M, line to U. A line that would meet the parabola behind
+/// M is dropped with the parabola, and the curve goes straight to M.
+void store_sand(common& cmn, const py_layer& layer, double K, const py_point& M, const py_point& U) {
+  const double H = layer.H;
+  const double D = layer.D;
+  const double EXPN = parabola_exponent(cmn, layer, M, U);
+  const double C = std::pow(M.Y, 1.0 / EXPN);
+  const double YK = std::pow(D * M.P / (H * K * C), EXPN / (EXPN - 1.0));
+  const py_point end{cmn.BIGDSP, U.P};
+  if (YK > M.Y) return store_py(cmn, layer.NL, layer.ND, {M, U, end});
+  const auto parabola = [&](double y) { return py_point{y, std::pow(y, 1.0 / EXPN) * M.P / C}; };
+  const double DY = (M.Y - YK) / 3.0;
+  const double Y2 = YK + DY;
+  const double Y3 = Y2 + DY;
+  store_py(cmn, layer.NL, layer.ND, {{YK, (H / D) * K * YK}, parabola(Y2), parabola(Y3), M, U, end});
+}
+
+void sand(common& cmn, const py_layer& layer) {
+  const auto PU = ultimate_resistance(cmn, layer, METHOD, 0.0);
+  if (!PU) return;
+  double AFACT = 0.0;
+  double BFACT = 0.0;
+  if (!find_factor(cmn, layer, layer.ICYCL == 0 ? A_STATIC : A_CYCLIC, AFACT)) return;
+  if (!find_factor(cmn, layer, layer.ICYCL == 0 ? B_STATIC : B_CYCLIC, BFACT)) return;
+  const double PHI = cmn.PHIR(layer.NL);
+  double K = 543.0;
+  if (PHI > 30.0) K = 1628.0;
+  if (PHI > 36.0) K = 3393.0;
+  K = K * cmn.GAMWAT;
+  const double PUU = AFACT * *PU;
+  const double PM = PUU * BFACT / AFACT;
+  store_sand(cmn, layer, K, {layer.D / 60.0, PM}, {layer.D * 3.0 / 80.0, PUU});
+}
+
+}  // namespace
+
+void API84(common& cmn, int NL, int ND) {
+  const auto layer = open_py(cmn, NL, ND, cmn.EPS);
+  if (!layer) return;
+  if (cmn.PHIR(NL) > cmn.EPS) return sand(cmn, *layer);
+  if (cmn.SURED(NL) > cmn.SUSTIF) return stiff_clay_curve(cmn, *layer, METHOD);
+  if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
+    soft_clay_curve_5(cmn, *layer, *PU);
+}
+
+}  // namespace tervak

@@ -1,0 +1,45 @@
+#include "SoilCurves/py/ISO04.hpp"
+
+#include "SoilCurves/py/py_frame.hpp"
+#include "SoilCurves/py/soft_clay_curve.hpp"
+#include "SoilCurves/py/stiff_clay_curve.hpp"
+#include "SoilCurves/py/tanh_sand_curve.hpp"
+
+namespace tervak {
+
+namespace {
+
+constexpr py_method METHOD{
+    1987,
+    "(/,' **** SR/ISO04 : ERROR FROM SR/APILAT  NL,ND,IERR=',3i5)",
+    "(/,' **** SR/ISO04 : ERROR FROM SR/PYRCK  NL,ND,IERR=',3i5)",
+    "(/,' **** SR/ISO04 : ERROR FROM SR/KestraCommonLibrary::Utils::Interpolate(  IERR=',i5)",
+};
+
+void sand(common& cmn, const py_layer& layer) {
+  const auto PU = ultimate_resistance(cmn, layer, METHOD, 0.0);
+  if (!PU) return;
+  if (const auto KV = modulus_by_water_level(cmn, layer, METHOD))
+    tanh_sand_curve(cmn, layer, *PU, *KV, cmn.EPS);
+}
+
+void clay(common& cmn, const py_layer& layer) {
+  const double SU = cmn.SURED(layer.NL);
+  const bool modified = layer.PYCODE == 570;
+  if (SU > cmn.SUSTIF && !modified) return stiff_clay_curve(cmn, layer, METHOD);
+  const auto PU = ultimate_resistance(cmn, layer, METHOD, SU);
+  if (!PU) return;
+  if (modified && !(SU < cmn.SUSTIF) && layer.ICYCL == 1) return modified_matlock_curve(cmn, layer, *PU);
+  soft_clay_curve_7(cmn, layer, *PU);
+}
+
+}  // namespace
+
+void ISO04(common& cmn, int NL, int ND) {
+  const auto layer = open_py(cmn, NL, ND, cmn.EPS);
+  if (!layer) return;
+  if (cmn.PHIR(NL) > cmn.EPS) return sand(cmn, *layer);
+  clay(cmn, *layer);
+}
+
+}  // namespace tervak

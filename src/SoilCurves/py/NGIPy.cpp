@@ -1,0 +1,84 @@
+#include "SoilCurves/py/NGIPy.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
+#include "SoilCurves/py/py_frame.hpp"
+#include "SoilCurves/py/soft_clay_curve.hpp"
+#include "SoilCurves/store/curve_store.hpp"
+
+namespace tervak {
+
+namespace {
+
+double ultimate(const common& cmn, const py_layer& layer) {
+  const double S = cmn.SURED(layer.NL);
+  const double Z = cmn.SIGZRES(layer.NL);
+  const double T = std::pow(layer.H / layer.D, sp(0.6f));
+  const double W = std::max(cmn.EPS, Z);
+  const double R = std::min(1.0, (S / W + 2.0) / 3.0);  // anisotropy of the strength
+  const double SR = S / R;
+  const double SC = SR * sp(0.69f);
+  const double SE = SR * sp(0.53f);
+  return std::min(SC * sp(11.9f), (SC + SE) * 0.5 * (T * 2.0 + 4.0) + Z);
+}
+
+double checked_stiffness_ratio(common& cmn, const py_layer& layer) {
+  const double G = cmn.PYPARM(layer.TYP)[0];
+  if (G < 25.0 || G > 2500.0) {
+    remark(
+        cmn,
+        "(/,' **** SR/NGI11 : Non-accepted ratio Gmax/Su',/,' Layer,Type,Diameter,Gmax/Su =',2i5,f7.3,f8.2,/,/,' **** Run was stopped by SR/NGI11')",
+        layer.NL, layer.TYP, layer.D, G);
+    stop("SoilCurves\\NGIPy", 415, " ");
+  }
+  return G;
+}
+
+std::vector<py_point> static_branch(const common& cmn, double D, double Y0, double G, double PU) {
+  std::vector<py_point> branch;
+  for (const double Y : {Y0 * sp(0.03f), Y0 * sp(0.1f), Y0 * sp(0.3f), Y0 * sp(0.6f), Y0, 2 * Y0, 3.0 * Y0,
+                         8.0 * Y0, cmn.BIGDSP}) {
+    const double X = std::sqrt(Y / D) * G * sp(0.01f);
+    double Q = 1.0;
+    if (!(X > 5.0)) {
+      const double E = std::exp(X + X);
+      Q = (E - 1.0) / (E + 1.0);
+    }
+    branch.push_back({Y, Q * PU});
+  }
+  return branch;
+}
+
+/// The points below 3 Y0 are reduced in proportion to their share of the stress there, the rest in full.
+void reduce_cyclic(const common& cmn, const py_layer& layer, double Y0, double PU,
+                   std::vector<py_point>& branch) {
+  const double GC = cmn.SIGZRES(layer.NL) / layer.H;  // stress from surface loads included
+  const double ZR = cyclic_depth(cmn, layer, GC);
+  const double PR = std::min(1.0, layer.H / ZR) * PU * sp(0.72f);
+  branch[7] = {15.0 * Y0, PR};
+  branch[8].P = PR;
+  const double C = cmn.PYPARM(layer.TYP)[1];
+  const double PREF = branch[6].P < cmn.EPS ? 1.0 : branch[6].P;
+  for (std::size_t i = 0; i < branch.size(); ++i) {
+    const double Q = i < 6 ? branch[i].P / PREF : 1.0;
+    branch[i].P = branch[i].P / (Q * C + 1.0);
+  }
+}
+
+}  // namespace
+
+void NGI11(common& cmn, int NL, int ND) {
+  const auto layer = open_py(cmn, NL, ND, cmn.EPS);
+  if (!layer) return;
+  const double PU = ultimate(cmn, *layer);
+  const double G = checked_stiffness_ratio(cmn, *layer);
+  const double Y0 = layer->D * sp(0.025f);
+  std::vector<py_point> branch = static_branch(cmn, layer->D, Y0, G, PU);
+  if (layer->ICYCL == 1) reduce_cyclic(cmn, *layer, Y0, PU, branch);
+  store_py(cmn, NL, ND, branch);
+}
+
+}  // namespace tervak

@@ -1,0 +1,18 @@
+#include "SoilCurves/py/PYMAN.hpp"
+
+#include "SoilCurves/store/curve_store.hpp"
+
+namespace tervak {
+
+void PYMAN(common& cmn, int NL, int ND) {
+  const int N = cmn.NPYPNT(ND, NL);
+  const int K = cmn.NPYORG(ND, NL) + N;
+  if (K <= cmn.MAXPNT) {
+    cmn.PYSTR(K, ND, NL) = cmn.PYSTR(K - 1, ND, NL);
+    cmn.PYDSP(K, ND, NL) = cmn.PYDSP(K - 1, ND, NL) + cmn.BIGDSP;
+    cmn.NPYPNT(ND, NL) = N + 1;
+  }
+  mirror(cmn.PYSTR, cmn.PYDSP, cmn.NPYPNT, cmn.NPYORG, ND, NL);
+}
+
+}  // namespace tervak

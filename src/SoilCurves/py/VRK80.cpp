@@ -1,0 +1,92 @@
+#include "SoilCurves/py/VRK80.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
+#include "SoilCurves/py/py_frame.hpp"
+#include "SoilCurves/py/VRKLAT.hpp"
+#include "SoilCurves/store/curve_store.hpp"
+
+namespace tervak {
+
+namespace {
+
+/// What shapes the curve: ultimate resistance, initial modulus, displacements of the ultimate and the
+/// residual resistance over the diameter, residual over ultimate.
+struct shape {
+  double PU, E, A, B, RES;
+};
+
+std::optional<double> lateral(common& cmn, const py_layer& layer, double SU, double OCR) {
+  double PU = 0.0;
+  VRKLAT(cmn.PHIR(layer.NL), SU, layer.H, cmn.SIGZRES(layer.NL), layer.D, layer.GAM, layer.ICYCL, OCR, PU,
+         cmn.IERR);
+  if (cmn.IERR == 0) return PU;
+  // The one code fills the first of the three fields; the other two stay empty.
+  fail(cmn, 1, "(/,' **** SR/VRK80 : ERROR FROM SR/VRKLAT  NL,ND,IERR=',3i5)", cmn.IERR);
+  return std::nullopt;
+}
+
+std::optional<shape> sand(common& cmn, const py_layer& layer) {
+  const auto PU = lateral(cmn, layer, 0.0, 0.0);
+  if (!PU) return std::nullopt;
+  const double PHI = cmn.PHIR(layer.NL);
+  double K = 500.0;
+  if (PHI > 30.0) K = 1200.0;
+  if (PHI > 36.0) K = 1800.0;
+  return shape{*PU, K * cmn.GAMWAT * layer.H / layer.D, sp(0.04f), sp(0.1f), 1.0};
+}
+
+std::optional<shape> clay(common& cmn, const py_layer& layer) {
+  const double SU = cmn.SURED(layer.NL);
+  double R = cmn.REVISION == 4 ? cmn.OCR(layer.TYP) : 0.0;
+  if (R < cmn.EPS) R = SU * 4.0 / std::max(cmn.EPS, cmn.SIGZRES(layer.NL));
+  const auto PU = lateral(cmn, layer, SU, R);
+  if (!PU) return std::nullopt;
+  const bool over = !(R < sp(1.01f));
+  double A = over ? 5.0 : 20.0;
+  double B = over ? 8.0 : 80.0;
+  if (layer.ICYCL == 1) {
+    A = over ? 2.5 : 7.5;
+    B = over ? 5.0 : 20.0;
+  }
+  const double C = over ? 30.0 : 10.0;
+  const double EPS50 = cmn.EPS50(layer.TYP);
+  A = A * EPS50;
+  B = B * EPS50;
+  const double E = C * *PU / (std::pow(EPS50, 0.25) * layer.D);
+  const double F = R > sp(1.01f) ? 5.0 : 10.0;  // at exactly 1.01 the table counts as over, this does not
+  const double RES = std::min(0.5, layer.H * 0.25 / (layer.D * F) + 0.25);
+  return shape{*PU, E, A, B, RES};
+}
+
+void store(common& cmn, const py_layer& layer, const shape& s) {
+  const double D = layer.D;
+  const double T = 1.0 - s.PU / (s.E * s.A * D);
+  std::vector<py_point> branch;
+  if (!(T < cmn.EPS)) {
+    const double PH = s.PU / T;
+    const double DY = D * s.A / 6.0;
+    double Y = 0.0;
+    for (int i = 1; i <= 5; ++i) {
+      Y += DY;
+      branch.push_back({Y, Y / (Y / PH + 1.0 / s.E)});
+    }
+  }
+  branch.push_back({s.A * D, s.PU});
+  branch.push_back({s.B * D, s.RES * s.PU});
+  branch.push_back({cmn.BIGDSP, s.RES * s.PU});
+  store_py(cmn, layer.NL, layer.ND, branch);
+}
+
+}  // namespace
+
+void VRK80(common& cmn, int NL, int ND) {
+  const auto layer = open_py(cmn, NL, ND, cmn.EPS);
+  if (!layer) return;
+  if (const auto s = cmn.PHIR(NL) > cmn.EPS ? sand(cmn, *layer) : clay(cmn, *layer)) store(cmn, *layer, *s);
+}
+
+}  // namespace tervak

@@ -1,0 +1,37 @@
+#include "SoilCurves/py/py_frame.hpp"
+
+#include "Control/state/report.hpp"
+#include "SoilCurves/py/APILAT.hpp"
+#include "SoilCurves/store/curve_store.hpp"
+
+namespace tervak {
+
+std::optional<py_layer> open_py(common& cmn, int NL, int ND, double ZTOL) {
+  const double H = cmn.DEPTH(NL);
+  if (!(H > ZTOL)) {
+    store_py(cmn, NL, ND, {{cmn.BIGDSP, 0.0}});
+    return std::nullopt;
+  }
+  py_layer layer;
+  layer.NL = NL;
+  layer.ND = ND;
+  layer.TYP = cmn.LAYCOD(NL).TYP;
+  layer.PYCODE = cmn.LAYCOD(NL).PYCODE;
+  layer.ICYCL = cmn.ZLAY(NL) < cmn.ZCYCL ? 1 : 0;
+  layer.H = H;
+  layer.D = cmn.DIAM(ND);
+  layer.GAM = (cmn.SIGZRES(NL) - cmn.DSIGZ(NL)) / H;
+  return layer;
+}
+
+std::optional<double> ultimate_resistance(common& cmn, const py_layer& layer, const py_method& method,
+                                          double SU) {
+  double PU = 0.0;
+  APILAT(method.IYEAR, SU, cmn.APIJ(layer.TYP), cmn.PHIR(layer.NL), layer.H, cmn.SIGZRES(layer.NL), layer.GAM,
+         layer.D, layer.ICYCL, PU, cmn.IERR);
+  if (cmn.IERR == 0) return PU;
+  fail(cmn, 1, method.APILAT, layer.NL, layer.ND, cmn.IERR);
+  return std::nullopt;
+}
+
+}  // namespace tervak

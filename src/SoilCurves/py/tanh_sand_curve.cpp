@@ -1,0 +1,60 @@
+#include "SoilCurves/py/tanh_sand_curve.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Control/state/Interpolate.hpp"
+#include "Control/state/report.hpp"
+#include "Control/state/sp.hpp"
+#include "SoilCurves/store/curve_store.hpp"
+
+namespace tervak {
+
+namespace {
+
+const vector1<double> ANGLES{0.0, 29.0, 30.0, 36.0, 40.0, 45.0, 90.0};
+const vector1<double> SUBMERGED{0.0, 272.0, 869.0, 2498.0, 4209.0, 5974.0, 5974.0};
+const vector1<double> ABOVE_WATER{0.0, 272.0, 1222.0, 4263.0, 7549.0, 10183.0, 10183.0};
+
+constexpr double FRACTIONS[] = {sp(0.111f), sp(0.222f), sp(0.333f), sp(0.444f), sp(0.555f),
+                                sp(0.666f), sp(0.777f), sp(0.888f), sp(0.999f)};
+
+}  // namespace
+
+std::optional<double> modulus_from_table(common& cmn, const py_layer& layer, const py_method& method,
+                                         const vector1<double>& PHI, const vector1<double>& KV) {
+  double value = 0.0;
+  KestraCommonLibrary::Utils::Interpolate(7, 1, PHI, KV, cmn.PHIR(layer.NL), value, cmn.IERR);
+  if (cmn.IERR == 0) return value;
+  fail(cmn, 1, method.lookup, cmn.IERR);
+  return std::nullopt;
+}
+
+std::optional<double> modulus_by_water_level(common& cmn, const py_layer& layer, const py_method& method) {
+  const bool dry = cmn.ZPWP > cmn.ZLAY(layer.NL);
+  return modulus_from_table(cmn, layer, method, ANGLES, dry ? ABOVE_WATER : SUBMERGED);
+}
+
+double load_factor(const py_layer& layer, int ICYCL) {
+  if (ICYCL == 1) return sp(0.9f);
+  return std::max(sp(0.9f), 3.0 - layer.H * sp(0.8f) / layer.D);
+}
+
+void tanh_sand_curve(common& cmn, const py_layer& layer, double PU, double KV, double ZTOL) {
+  const double APU = load_factor(layer, layer.ICYCL) * PU;
+  double DEN = APU * layer.D;
+  if (DEN < ZTOL) DEN = 1.0;
+  const double ZC = KV * cmn.GAMWAT * layer.H / DEN;
+  const double YS = PU < ZTOL ? 1.0 : sp(3.8f) / ZC;
+  std::vector<py_point> branch;
+  for (const double C : FRACTIONS) branch.push_back({YS * C, 0.0});
+  branch.push_back({cmn.BIGDSP, 0.0});
+  for (py_point& point : branch) {
+    const double X = 2 * ZC * point.Y;
+    const double E = std::exp(std::min(15.0, X));
+    point.P = ((E - 1.0) / (E + 1.0)) * APU;
+  }
+  store_py(cmn, layer.NL, layer.ND, branch);
+}
+
+}  // namespace tervak
