@@ -7,14 +7,22 @@
 
 namespace fem {
 
-format_cursor::format_cursor(std::string_view format) : scanner_(format), tokens_(scanner_.tokens()) {
+namespace {
+
+const format_token RECORD_END(format_token_type::op, "/");
+
+bool is_op(const format_token& token, char op) {
+  return token.type == format_token_type::op && token.value.front() == op;
+}
+
+}  // namespace
+
+format_cursor::format_cursor(std::string_view format)
+    : scanner_(scanned(format)), tokens_(scanner_->tokens()) {
   group_stack_.reserve(32);
 }
 
-const format_token& format_cursor::record_end() {
-  static const format_token slash{format_token_type::op, "/"};
-  return slash;
-}
+const format_token& format_cursor::record_end() { return RECORD_END; }
 
 const format_token* format_cursor::next_executable_token(bool final) {
   if (repeats_left_ > 0) {
@@ -25,9 +33,9 @@ const format_token* format_cursor::next_executable_token(bool final) {
     const format_token& token = tokens_[next_index_++];
     if (token.type == format_token_type::integer) {
       if (const format_token* repeated = repeat(token)) return repeated;
-    } else if (token.type == format_token_type::op && token.value == "(") {
+    } else if (is_op(token, '(')) {
       open_group(next_index_ - 1, 1);
-    } else if (token.type == format_token_type::op && token.value == ")") {
+    } else if (is_op(token, ')')) {
       close_group();
     } else {
       return &token;
@@ -43,10 +51,10 @@ const format_token* format_cursor::next_executable_token(bool final) {
 const format_token* format_cursor::repeat(const format_token& count) {
   const std::uint32_t count_index = next_index_ - 1;
   if (next_index_ == tokens_.size()) throw std::runtime_error("Trailing lone repeat count in format string.");
-  const auto times = static_cast<std::uint32_t>(number_in_format(count.value));
+  const auto times = static_cast<std::uint32_t>(count.number());
   if (times == 0) throw std::runtime_error("Zero repeat count in format string.");
   const format_token& repeated = tokens_[next_index_++];
-  if (repeated.type == format_token_type::op && repeated.value == "(") {
+  if (is_op(repeated, '(')) {
     open_group(count_index, times);
     return nullptr;
   }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <memory_resource>
 #include <string_view>
 #include <vector>
@@ -36,8 +37,8 @@ class format_cursor {
   void close_group();
   const format_token* repeat(const format_token& count);
 
-  format_scanner scanner_;
-  const std::pmr::vector<format_token>& tokens_;
+  std::shared_ptr<const format_scanner> scanner_;
+  const std::vector<format_token>& tokens_;
   std::uint32_t next_index_ = 0;
   std::uint32_t restart_index_ = 0;
   std::uint32_t repeats_left_ = 0;

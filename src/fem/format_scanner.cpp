@@ -2,6 +2,7 @@
 
 #include <array>
 #include <stdexcept>
+#include <unordered_map>
 
 namespace fem {
 
@@ -20,9 +21,10 @@ constexpr std::array<char, 256> FOLDED = [] {
   return folded;
 }();
 
-/// Drops blanks and tabs and folds capitals, both outside quoted text only. Returns the new length.
-std::size_t filter(std::string_view format, char* target) {
-  char* out = target;
+/// Drops blanks and tabs and folds capitals, both outside quoted text only.
+std::string filter(std::string_view format) {
+  std::string text(format.size(), '\0');
+  char* out = text.data();
   for (std::size_t i = 0; i < format.size(); ++i) {
     const char c = format[i];
     *out = FOLDED[static_cast<unsigned char>(c)];
@@ -32,22 +34,16 @@ std::size_t filter(std::string_view format, char* target) {
     while (++i < format.size() && format[i] != c) *out++ = format[i];
     if (i < format.size()) *out++ = c;
   }
-  return static_cast<std::size_t>(out - target);
+  text.resize(static_cast<std::size_t>(out - text.data()));
+  return text;
 }
 
 }  // namespace
 
-format_scanner::format_scanner(std::string_view format) : format_(format) {
-  text_ = short_text_.data();
-  if (format.size() > short_text_.size()) {
-    long_text_.resize(format.size());
-    text_ = long_text_.data();
-  }
-  const std::size_t size = filter(format, text_);
-  if (size == 0) throw std::runtime_error(std::string(INVALID) + "empty string");
-  if (text_[0] != '(' || text_[size - 1] != ')') invalid(INVALID);
-  end_ = size - 1;
-  tokens_.reserve(32);
+format_scanner::format_scanner(std::string_view format) : format_(format), text_(filter(format)) {
+  if (text_.empty()) throw std::runtime_error(std::string(INVALID) + "empty string");
+  if (text_.front() != '(' || text_.back() != ')') invalid(INVALID);
+  end_ = text_.size() - 1;
   while (next_ < end_) scan_token();
 }
 
@@ -122,7 +118,7 @@ void format_scanner::scan_quoted() {
     text_[out++] = text_[next_];
   }
   ++next_;
-  tokens_.push_back({format_token_type::string, {text_ + start, out - start}});
+  tokens_.emplace_back(format_token_type::string, std::string_view(text_).substr(start, out - start));
 }
 
 void format_scanner::scan_sign() {
@@ -166,14 +162,38 @@ bool format_scanner::pass_digits() {
 }
 
 void format_scanner::add(format_token_type type, std::size_t start) {
-  tokens_.push_back({type, {text_ + start, next_ - start}});
+  tokens_.emplace_back(type, std::string_view(text_).substr(start, next_ - start));
 }
 
 /// The text is filtered anew, since quoted texts ahead of the fault were reduced in place.
-void format_scanner::invalid(const char* reason) const {
-  std::string filtered(format_.size(), '\0');
-  filtered.resize(filter(format_, filtered.data()));
-  throw std::runtime_error(reason + filtered);
+void format_scanner::invalid(const char* reason) const { throw std::runtime_error(reason + filter(format_)); }
+
+format_token::format_token(format_token_type kind, std::string_view text)
+    : type(kind), value(text), data_edit(kind == format_token_type::format && is_data_edit(text)) {
+  constexpr std::size_t ALWAYS_IN_RANGE = 10;  // a letter or sign and nine digits
+  if (value.size() > ALWAYS_IN_RANGE) return;
+  if (data_edit)
+    size_ = size_of_field(value);
+  else if (type == format_token_type::integer || value.back() == 'x' || value.back() == 'p')
+    size_.width = read_number();
+}
+
+int format_token::read_number() const {
+  return type == format_token_type::integer ? number_in_format(value) : number_ahead(value, 1);
+}
+
+std::shared_ptr<const format_scanner> scanned(std::string_view format) {
+  struct hash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
+  constexpr std::size_t MOST =
+      1000;  // far above what a run needs: formats made at run time shall not pile up
+  static std::unordered_map<std::string, std::shared_ptr<const format_scanner>, hash, std::equal_to<>> kept;
+  if (const auto found = kept.find(format); found != kept.end()) return found->second;
+  auto scanner = std::make_shared<const format_scanner>(format);
+  if (kept.size() >= MOST) kept.clear();
+  kept.emplace(format, scanner);
+  return scanner;
 }
 
 }  // namespace fem

@@ -119,7 +119,7 @@ std::string_view read_loop::next_edit_descriptor() {
         act_on_op(token.value.front());
         break;
       case format_token_type::format:
-        if (is_data_edit(token.value)) return token.value;
+        if (token.data_edit) return token.value;
         act_on_control(token.value);
         break;
       default:

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <optional>
 
-#include "fem/descriptor.hpp"
 #include "fem/utils/double_to_string.hpp"
 #include "fem/utils/general_to_string.hpp"
 #include "fem/utils/list_directed_to_string.hpp"
@@ -90,26 +89,26 @@ void write_loop::put_raw(const Value& value) {
 
 /// Right-justified: a text constant under "a8" stands at the end of its field.
 void write_loop::edit_text_constant(std::string_view text) {
-  const std::string_view descriptor = next_edit_descriptor(false);
+  const format_token& edit = *next_edit_descriptor(false);
   put_pending_blanks();
-  if (descriptor.front() != 'a' || descriptor.size() == 1) return put(text);
-  const auto width = static_cast<std::size_t>(size_of_field(descriptor).width);
+  if (edit.value.front() != 'a' || edit.value.size() == 1) return put(text);
+  const auto width = static_cast<std::size_t>(edit.size().width);
   if (text.size() < width) put_blanks(width - text.size());
   put(text.substr(0, width));
 }
 
 /// Left-justified.
 void write_loop::edit_fixed_length(std::string_view text) {
-  const std::string_view descriptor = next_edit_descriptor(false);
+  const format_token& edit = *next_edit_descriptor(false);
   put_pending_blanks();
-  if (descriptor.front() != 'a' || descriptor.size() == 1) return put(text);
-  const auto width = static_cast<std::size_t>(size_of_field(descriptor).width);
+  if (edit.value.front() != 'a' || edit.value.size() == 1) return put(text);
+  const auto width = static_cast<std::size_t>(edit.size().width);
   put(text.substr(0, width));
   if (text.size() < width) put_blanks(width - text.size());
 }
 
 void write_loop::edit_integer(int value) {
-  const std::string_view descriptor = next_edit_descriptor(false);
+  const std::string_view descriptor = next_edit_descriptor(false)->value;
   if (descriptor.front() != 'i') return put_edited(utils::printed_value(" %d", value).text());
   if (const auto plain = plain_width(descriptor)) {
     // What "%5d" prints, without the way through the C library.
@@ -129,7 +128,8 @@ void write_loop::edit_real(double value) {
     put_pending_blanks();
     return put("isNAN");
   }
-  const std::string_view descriptor = next_edit_descriptor(false);
+  const format_token& edit = *next_edit_descriptor(false);
+  const std::string_view descriptor = edit.value;
   const bool sized = descriptor.size() > 1;
   switch (descriptor.front()) {
     case 'f': {
@@ -139,14 +139,14 @@ void write_loop::edit_real(double value) {
     case 'd':
     case 'e': {
       if (!sized) break;
-      const auto [w, d] = size_of_field(descriptor);
+      const auto [w, d] = edit.size();
       utils::e_field field;
       const char letter = descriptor.front() == 'd' ? 'D' : 'E';
       return put_edited(utils::double_to_string(field, value, w, d, scale_factor_, letter));
     }
     case 'g': {
       if (!sized) utils::assertion_failed("n > 1");
-      const auto [w, d] = size_of_field(descriptor);
+      const auto [w, d] = edit.size();
       return put_edited(utils::general_to_string(value, w, d, scale_factor_));
     }
     default:

@@ -4,7 +4,6 @@
 #include <exception>
 #include <stdexcept>
 
-#include "fem/descriptor.hpp"
 #include "fem/utils/source_position.hpp"
 
 namespace fem {
@@ -59,7 +58,7 @@ void write_loop::end_statement() {
   out_->flush();
 }
 
-std::string_view write_loop::next_edit_descriptor(bool final) {
+const format_token* write_loop::next_edit_descriptor(bool final) {
   bool restarted = false;
   while (!terminated_by_colon_) {
     const format_token* token = cursor_->next_executable_token(final);
@@ -79,14 +78,14 @@ std::string_view write_loop::next_edit_descriptor(bool final) {
         act_on_op(token->value.front(), final);
         break;
       case format_token_type::format:
-        if (is_data_edit(token->value)) return token->value;
-        act_on_control(token->value);
+        if (token->data_edit) return token;
+        act_on_control(*token);
         break;
       default:
         utils::unreachable();
     }
   }
-  return {};
+  return nullptr;
 }
 
 void write_loop::act_on_op(char op, bool final) {
@@ -106,11 +105,11 @@ void write_loop::act_on_op(char op, bool final) {
   }
 }
 
-void write_loop::act_on_control(std::string_view descriptor) {
-  if (descriptor.back() == 'x')
-    pending_blanks_ += static_cast<std::size_t>(number_ahead(descriptor, 1));
-  else if (descriptor.back() == 'p' && descriptor.front() != 's')
-    scale_factor_ = number_ahead(descriptor, 1);
+void write_loop::act_on_control(const format_token& token) {
+  if (token.value.back() == 'x')
+    pending_blanks_ += static_cast<std::size_t>(token.number());
+  else if (token.value.back() == 'p' && token.value.front() != 's')
+    scale_factor_ = token.number();
   else
     utils::not_implemented();  // tabs, sign control and blank control
 }

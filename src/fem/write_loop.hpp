@@ -61,9 +61,10 @@ class write_loop {
   template <class Value>
   void put_raw(const Value& value);
   write_loop& fixed_length(std::string_view text);
-  std::string_view next_edit_descriptor(bool final);
+  /// The descriptor of the next item; none where the format has ended.
+  const format_token* next_edit_descriptor(bool final);
   void act_on_op(char op, bool final);
-  void act_on_control(std::string_view descriptor);
+  void act_on_control(const format_token& token);
   void edit_text_constant(std::string_view text);
   void edit_fixed_length(std::string_view text);
   void edit_integer(int value);
