@@ -118,13 +118,9 @@ using ManualDistributedMomentCurve = ManualMonopileCurve;
 using ManualForceCurve = ManualMonopileCurve;
 using ManualMomentCurve = ManualMonopileCurve;
 
-/// Curves of a monopile, one record a curve. GetManualCurve takes the first record that fits the layer and
-/// the diameter (within 1.0E-8; `diameter` and the tolerance are in run units, `lengthFactor` is one deck
-/// length in run units). A displacement that repeats keeps its place and the last force. No record: an empty
-/// map.
+/// Curves of a monopile, one record a curve; monopile_lookup.hpp finds them.
 struct ManualMonopileSection {
   std::vector<ManualCurveRecord> Records;
-  [[nodiscard]] ManualMonopileCurve GetManualCurve(int layer, double diameter, double lengthFactor) const;
 };
 struct ManualMthetaMomentDataSection : ManualMonopileSection {};
 struct ManualBSYBaseShearDataSection : ManualMonopileSection {};
@@ -134,12 +130,9 @@ struct MonopileModificationRecord {
   int LAY1 = 0, LAY2 = 0;
   double Diameter = 0, ForceFactor = 0, DisplacementFactor = 0;
 };
-/// Factors on monopile curves. GetModification gives the force factor and the displacement factor of the
-/// first line that covers layer and diameter, and throws std::out_of_range when none does.
+/// Factors on monopile curves; monopile_lookup.hpp finds them.
 struct MonopileModificationSection {
   std::vector<MonopileModificationRecord> Records;
-  [[nodiscard]] std::pair<double, double> GetModification(int layer, double diameter,
-                                                          double lengthFactor) const;
 };
 struct MthetaMomentDataModificationSection : MonopileModificationSection {};
 struct BSYBaseShearDataModificationSection : MonopileModificationSection {};

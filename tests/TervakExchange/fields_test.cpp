@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "TervakExchange/decks.hpp"
+#include "TervakExchange/monopile_lookup.hpp"
 
 using namespace decks;
 
@@ -69,29 +70,15 @@ TEST(DeckFields, Curves) {
   EXPECT_TRUE(d.ManualPy.Records.at(1).Stresses.empty());
   EXPECT_EQ(d.ManualTz.Records.at(0).Displacements, (numbers{-0.1}));
   EXPECT_EQ(d.ManualQz.Records.at(0).Layer, 3);
-  EXPECT_EQ(d.ManualMtheta.GetManualCurve(2, 1.5, 1), (ManualMonopileCurve{{0, 0}, {0.2, 7}}));
-  EXPECT_EQ(d.ManualBSY.GetManualCurve(1, 1.2, 1), (ManualMonopileCurve{{0, 0}, {0.1, 5}}));
-  EXPECT_EQ(d.ManualBMtheta.GetManualCurve(3, 1.8, 1), (ManualMonopileCurve{{0, 0}, {0.3, 9}}));
-  EXPECT_EQ(d.BSYModification.GetModification(2, 1.2, 1), std::make_pair(3.0, 4.0));
-  EXPECT_EQ(d.MthetaModification.GetModification(3, 1.5, 1), std::make_pair(5.0, 6.0));
-  EXPECT_EQ(d.BMthetaModification.GetModification(6, 1.8, 1), std::make_pair(7.0, 8.0));
-}
-
-TEST(MonopileSections, FirstRecordThatFits) {
-  ManualMonopileSection section;
-  section.Records = {{1, 2.0, {0, 5, 6}, {0, 0.1, 0.1}}, {1, 2.0, {9}, {0}}};
-  const ManualMonopileCurve first{{0, 0}, {0.1, 6}};  // the last force of a repeated displacement
-  EXPECT_EQ(section.GetManualCurve(1, 2.0, 1), first);
-  EXPECT_EQ(section.GetManualCurve(1, 2000.0 + 9E-9, 1000), first);  // in run units, as the tolerance
-  EXPECT_TRUE(section.GetManualCurve(1, 2000.0 + 2E-8, 1000).empty());
-  EXPECT_TRUE(section.GetManualCurve(2, 2.0, 1).empty());
-
-  MonopileModificationSection factors;
-  factors.Records = {{2, 3, 2.0, 1.1, 1.2}, {3, 4, 2.0, 1.3, 1.4}};
-  EXPECT_EQ(factors.GetModification(3, 200.0, 100), std::make_pair(1.1, 1.2));
-  EXPECT_EQ(factors.GetModification(4, 200.0, 100), std::make_pair(1.3, 1.4));
-  EXPECT_THROW(static_cast<void>(factors.GetModification(1, 2.0, 1)), std::out_of_range);
-  EXPECT_THROW(static_cast<void>(factors.GetModification(3, 2.1, 1)), std::out_of_range);
+  EXPECT_EQ(ManualCurveLookup(d.ManualMtheta, 1).GetManualCurve(2, 1.5),
+            (ManualMonopileCurve{{0, 0}, {0.2, 7}}));
+  EXPECT_EQ(ManualCurveLookup(d.ManualBSY, 1).GetManualCurve(1, 1.2),
+            (ManualMonopileCurve{{0, 0}, {0.1, 5}}));
+  EXPECT_EQ(ManualCurveLookup(d.ManualBMtheta, 1).GetManualCurve(3, 1.8),
+            (ManualMonopileCurve{{0, 0}, {0.3, 9}}));
+  EXPECT_EQ(ModificationLookup(d.BSYModification, 1).GetModification(2, 1.2), std::make_pair(3.0, 4.0));
+  EXPECT_EQ(ModificationLookup(d.MthetaModification, 1).GetModification(3, 1.5), std::make_pair(5.0, 6.0));
+  EXPECT_EQ(ModificationLookup(d.BMthetaModification, 1).GetModification(6, 1.8), std::make_pair(7.0, 8.0));
 }
 
 }  // namespace

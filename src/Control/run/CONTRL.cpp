@@ -138,7 +138,7 @@ bool build_layers(common& cmn) {
 }
 
 bool read_monopile(common& cmn, int PROFILECOUNT) {
-  const Tervak profile = cmn.PROFILES.GetSoilProfiles().at(static_cast<std::size_t>(PROFILECOUNT - 1));
+  const Tervak& profile = cmn.PROFILES.GetSoilProfiles().at(static_cast<std::size_t>(PROFILECOUNT - 1));
   const auto& control = profile.GetTervakInputData().Control;
   if (!control.HasDMData() && !control.HasBMData() && !control.HasBSData()) {
     cmn.MONOPILE.reset();

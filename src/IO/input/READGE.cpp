@@ -24,7 +24,7 @@ void read_profile(common& cmn, int PROFILECOUNT) {
   if (PROFILECOUNT > NUMBEROFPROFILES)
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/READGE : PROFILECOUNT,NUMBEROFPROFILES=',2i5)", PROFILECOUNT,
                 NUMBEROFPROFILES);
-  const Tervak profile = entry(profiles, PROFILECOUNT);
+  const Tervak& profile = entry(profiles, PROFILECOUNT);
   if (PROFILECOUNT == 1) copy_deck(cmn);
   read_general_values(cmn, profile);
   if (cmn.IERR != 0) return;

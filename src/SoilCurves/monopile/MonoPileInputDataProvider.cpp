@@ -6,11 +6,10 @@
 namespace Varno::TervakLibrary::SoilCurves {
 
 MonoPileCurve MonoPileInputDataProvider::GetCurve(int NL, double DIAM) const {
-  const double length = converter_.Length(1.0);
-  const auto given = section_.GetManualCurve(NL, DIAM, length);
+  const auto given = curves_.GetManualCurve(NL, DIAM);
   std::pair<double, double> factors = {1.0, 1.0};
   try {
-    factors = modification_.GetModification(NL, DIAM, length);
+    factors = modifications_.GetModification(NL, DIAM);
   } catch (const std::out_of_range&) {
     // No line covers the pair: the curve stays as given.
   }

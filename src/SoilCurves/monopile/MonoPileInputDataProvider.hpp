@@ -2,6 +2,7 @@
 
 #include "SoilCurves/monopile/IMonoPileDataProvider.hpp"
 #include "SoilCurves/monopile/MonoPileData.hpp"
+#include "TervakExchange/monopile_lookup.hpp"
 
 namespace Varno::TervakLibrary::SoilCurves {
 
@@ -14,7 +15,10 @@ class MonoPileInputDataProvider {
   MonoPileInputDataProvider(const MonoPileKind& kind, const IO::TervakUnitConverter& converter,
                             const Vrsk::Plin::TervakExchange::ManualMonopileSection& section,
                             const Vrsk::Plin::TervakExchange::MonopileModificationSection& modification)
-      : kind_(kind), converter_(converter), section_(section), modification_(modification) {}
+      : kind_(kind),
+        converter_(converter),
+        curves_(section, converter.Length(1.0)),
+        modifications_(modification, converter.Length(1.0)) {}
 
   /// The given points in ascending displacement; empty when the deck has no curve for the pair. DIAM in run
   /// units. A pair that no modification line covers has the factors 1.0.
@@ -23,8 +27,8 @@ class MonoPileInputDataProvider {
  private:
   const MonoPileKind& kind_;
   const IO::TervakUnitConverter& converter_;
-  const Vrsk::Plin::TervakExchange::ManualMonopileSection& section_;
-  const Vrsk::Plin::TervakExchange::MonopileModificationSection& modification_;
+  Vrsk::Plin::TervakExchange::ManualCurveLookup curves_;
+  Vrsk::Plin::TervakExchange::ModificationLookup modifications_;
 };
 
 }  // namespace Varno::TervakLibrary::SoilCurves
