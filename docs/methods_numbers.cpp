@@ -1,0 +1,243 @@
+// What docs/methods holds of the program, made anew; a test compares.   methods_numbers equations | numbers |
+// codes
+//
+// equations   page, id, formula and source of every equation of the list, separated by tabs
+// numbers     every block's heading and its worked number, made by the routine from the values that stand
+// there
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "Control/AxialCapacityControl.hpp"
+#include "Control/build5.hpp"
+#include "Control/common.hpp"
+#include "Control/state/equations.hpp"
+#include "fem/open_chain.hpp"
+#include "IO/curve_codes.hpp"
+#include "SkinFriction/soilInput.hpp"
+#include "SoilCurves/API14.hpp"
+#include "SoilCurves/API84.hpp"
+#include "SoilCurves/API87.hpp"
+#include "SoilCurves/APILAT.hpp"
+#include "SoilCurves/ISO04.hpp"
+#include "SoilCurves/MODIFY.hpp"
+#include "SoilCurves/NGIPy.hpp"
+#include "SoilCurves/PYAUTO.hpp"
+#include "SoilCurves/PYMAN.hpp"
+#include "SoilCurves/PYULT.hpp"
+#include "SoilCurves/QZAUTO.hpp"
+#include "SoilCurves/QZMAN.hpp"
+#include "SoilCurves/QZMISC.hpp"
+#include "SoilCurves/TZAUTO.hpp"
+#include "SoilCurves/TZMAN.hpp"
+#include "SoilCurves/TZMISC.hpp"
+#include "SoilCurves/VRK80.hpp"
+
+namespace {
+
+using namespace tervak;
+
+/// A revision 5 run of two equal main layers of one layer each, from the sea floor at 0 to 4 and to 10 m,
+/// with levels 2 and 7 m, in kN and m. The pages say so.
+struct run : common {
+  run() {
+    set_constants(*this);
+    REVISION = 5;
+    UNITF = UNITM = SFTPHI = SFSU = SFSKF = SFSIGT = MIDBOT = MATPIL = 1;
+    GAMWAT = GAMPWP = 10.05;
+    ATMPRS = 101.3;
+    ZCYCL = ZPWP = -1.0;
+    SUSTIF = 96.0;
+    NUMDIA = 1;
+    NUMLAY = NUMLAYM = NUMCLY = 2;
+    NUMTQZ = 5;
+    ZONINF = 10.0;
+    RFTZ = static_cast<double>(0.9f);
+    DIAM = {1.0};
+    BIGDSP = 1000.0;
+    DIAMP = 1.0, WALL = 0.05, ZTIP = 10.0;
+    allocate_input_tables(*this);
+    allocate_layer_tables(*this);
+    FRCPNT.allocate(1), FRCDST.allocate(1);
+    for (int i = 1; i <= 2; ++i) {
+      LAYCOD.append({i, 0, 0, 0});
+      ZMAIN(i) = i == 1 ? 4.0 : 10.0;
+      ZBOTM.append(ZMAIN(i));
+      ZLAY.append(i == 1 ? 2.0 : 7.0);
+      DEPTH(i) = DPCLAY(i) = ZLAY(i);
+      GAMTOT(i) = 20.05, EPS50(i) = 0.01, APIJ(i) = 0.5, GOFAC(i) = TRESMX(i) = 1.0;
+    }
+    for (int r = 1; r <= 5; ++r) ZTQZ(r) = 2.5 * (r - 1), TZDRAT(r) = 0.01, QZDRAT(r) = 0.05;
+    fem::open(units, NFLIS).status("SCRATCH").finish();
+  }
+};
+
+/// Where a name of an input goes. Values of layers are set in both.
+void set(common& cmn, const std::string& name, double value) {
+  const std::map<std::string, double*> scalars = {
+      {"D", &cmn.DIAM(1)},      {"ZCYCL", &cmn.ZCYCL},   {"SUSTIF", &cmn.SUSTIF}, {"ZPWP", &cmn.ZPWP},
+      {"wall", &cmn.WALL},      {"tip", &cmn.ZTIP},      {"SCRGEN", &cmn.SCRGEN}, {"SCRLOC", &cmn.SCRLOC},
+      {"SCRSLP", &cmn.SCRSLP},  {"SIGSUR", &cmn.SIGSUR}, {"SIGEMB", &cmn.SIGEMB}, {"AEMB", &cmn.AEMB},
+      {"BEMB", &cmn.BEMB},      {"SIGCIR", &cmn.SIGCIR}, {"RADCIR", &cmn.RADCIR}, {"SFSU", &cmn.SFSU},
+      {"SFTPHI", &cmn.SFTPHI},  {"SFSKF", &cmn.SFSKF},   {"SFSIGT", &cmn.SFSIGT}, {"GAMPWP", &cmn.GAMPWP},
+      {"load", &cmn.FRCPNT(1)}, {"at", &cmn.FRCDST(1)},
+  };
+  if (const auto found = scalars.find(name); found != scalars.end()) {
+    *found->second = value;
+    if (name == "D") cmn.DIAMP = value, cmn.BIGDSP = 1000.0 * value;
+    if (name == "load") cmn.NUMFRC = 1;
+    return;
+  }
+  using list = std::vector<vector1<double>*>;
+  const std::map<std::string, list> lists = {
+      {"phi", {&cmn.PHIR, &cmn.PHI, &cmn.PHIM, &cmn.PHIL}},
+      {"Su", {&cmn.SURED, &cmn.SUCMP, &cmn.SUTOP, &cmn.SUBOT, &cmn.SUCLAY, &cmn.SU0, &cmn.SU100}},
+      {"sig'", {&cmn.SIGZRES, &cmn.SIGZ}},
+      {"dsig", {&cmn.DSIGZ}},
+      {"X", {&cmn.DEPTH}},
+      {"Z", {&cmn.ZLAY, &cmn.ZNOW}},
+      {"J", {&cmn.APIJ}},
+      {"APIJM", {&cmn.APIJ}},
+      {"eps50", {&cmn.EPS50}},
+      {"KSOILM", {&cmn.KSOILM}},
+      {"GAMM", {&cmn.GAMTOT}},
+      {"qc", {&cmn.CPTTOP, &cmn.CPTBOT, &cmn.CPTTIP, &cmn.CPTAVR}},
+      {"Dr", {&cmn.DRM, &cmn.DR}},
+      {"Ip", {&cmn.PLIM, &cmn.PLI}},
+      {"St", {&cmn.ST}},
+      {"delta", {&cmn.DELTAF}},
+      {"G", {&cmn.GSOIL}},
+      {"nu", {&cmn.POIS}},
+      {"tc", {&cmn.TAUCMP, &cmn.TCMTOP, &cmn.TCMBOT}},
+      {"tt", {&cmn.TAUTNS, &cmn.TTNTOP, &cmn.TTNBOT}},
+      {"q", {&cmn.QTIP, &cmn.QTPTOP, &cmn.QTPBOT}},
+      {"TRESM", {&cmn.TRESMX}},
+      {"TZZRSM", {&cmn.TZZRES}},
+  };
+  if (name == "g" || name == "C") {
+    for (int i = 1; i <= 2; ++i) cmn.PYPARM(i)[name == "g" ? 0 : 1] = value;
+    return;
+  }
+  for (vector1<double>* values : lists.at(name))
+    for (int i = 1; i <= values->size(); ++i) (*values)(i) = value;
+}
+
+std::string text(const char* format, auto... values) {
+  char buffer[200];
+  std::snprintf(buffer, sizeof buffer, format, values...);
+  return buffer;
+}
+
+/// A block of the pages: its heading, the input of its worked number as it is printed ("name value, ..."),
+/// and what makes the result.
+struct block {
+  const char* heading;
+  const char* input;
+  std::string (*result)(common&);
+};
+
+void prepare(common& cmn, const std::string& input) {
+  std::istringstream words(input);
+  std::string name;
+  double value = 0;
+  while (words >> name >> value) {
+    set(cmn, name, value);
+    if (words.peek() == ',') words.get();
+  }
+  if (!words.eof()) {
+    std::fprintf(stderr, "cannot read: %s\n", input.c_str());
+    std::exit(2);
+  }
+}
+
+/// Point N of a curve that a routine makes of layer 1.
+template <auto ROUTINE, int N, int CODE = 0>
+std::string py(common& cmn) {
+  cmn.LAYCOD(1).PYCODE = CODE;
+  if constexpr (requires { ROUTINE(cmn, 1, 1, CODE); })
+    ROUTINE(cmn, 1, 1, CODE);
+  else
+    ROUTINE(cmn, 1, 1);
+  return text("p = %.6g kPa at y = %.6g m, point %d", cmn.PYSTR(15 + N, 1, 1), cmn.PYDSP(15 + N, 1, 1), N);
+}
+
+std::string ultimate(common& cmn) {
+  double PULT = 0;
+  int IERR = 0;
+  const double GAM = (cmn.SIGZRES(1) - cmn.DSIGZ(1)) / cmn.DEPTH(1);
+  APILAT(1987, cmn.SURED(1), cmn.APIJ(1), cmn.PHIR(1), cmn.DEPTH(1), cmn.SIGZRES(1), GAM, cmn.DIAM(1), 0,
+         PULT, IERR);
+  return text("pu = %.6g kPa", PULT);
+}
+
+std::string earth_pressure(common& cmn) {
+  double PULT = 0;
+  PYULT(cmn.PHIR(1) / 180.0 * cmn.PI, cmn.SURED(1), cmn.DEPTH(1), cmn.SIGZRES(1), cmn.DIAM(1), PULT);
+  return text("pu = %.6g kPa", PULT);
+}
+
+std::string given_py(common& cmn) {
+  cmn.PYSTR(16, 1, 1) = 30.0, cmn.PYDSP(16, 1, 1) = 0.05, cmn.NPYPNT(1, 1) = 2;
+  return py<PYMAN, 2>(cmn);
+}
+
+const block BLOCKS[] = {
+    {"P-Y opening: soil kind and load",
+     "phi 0, Su 50, sig' 60, dsig 20, X 5, D 1, J 0.5, eps50 0.01, ZCYCL 3", py<API14, 5, 214>},
+    {"P-Y ultimate resistance of sand", "phi 35, sig' 50, X 5, D 1", ultimate},
+    {"P-Y ultimate resistance of clay", "Su 50, sig' 60, dsig 20, X 5, D 1, J 0.5", ultimate},
+    {"P-Y tanh curve of sand", "phi 35, sig' 50, X 5, D 1, KSOILM 22000", py<API14, 3, 214>},
+    {"P-Y curve of soft clay", "Su 50, sig' 40, X 3, D 1, J 0.5, eps50 0.01, ZCYCL 3", py<API84, 3, 284>},
+    {"P-Y curve of stiff clay", "Su 150, sig' 40, X 3, D 1", py<API14, 6, 214>},
+    {"P-Y earth pressure resistance", "phi 30, Su 0, sig' 50, X 5, D 1", earth_pressure},
+    {"P-Y 0, MANUAL", "D 1", given_py},
+    {"P-Y 100, 101, 102, 103: LINEAR, AUTO-1, AUTO-2, AUTO-3", "phi 30, sig' 50, X 5, D 1",
+     py<PYAUTO, 3, 103>},
+    {"P-Y 214, API-2014", "phi 35, sig' 50, X 5, D 1", py<API14, 3, 214>},
+    {"P-Y 284, API-84", "phi 35, sig' 50, X 5, D 1", py<API84, 2, 284>},
+    {"P-Y 287, API-87", "phi 35, sig' 50, X 5, D 1", py<API87, 3, 287>},
+    {"P-Y 380, VRK-80", "Su 50, sig' 50, X 5, D 1, eps50 0.01", py<VRK80, 3, 380>},
+    {"P-Y 404, ISO-04", "phi 35, sig' 50, X 5, D 1, ZPWP 9", py<ISO04, 3, 404>},
+    {"P-Y 570, ModMat", "Su 150, sig' 40, X 3, D 1, J 0.5, eps50 0.005, ZCYCL 3", py<ISO04, 4, 570>},
+    {"P-Y 588, carbonate sand", "phi 30, sig' 50, X 5, D 1, APIJM 400, ZCYCL 3", py<API87, 4, 588>},
+    {"P-Y 600, NGI-11", "Su 30, sig' 50, X 5, D 1, J 0.5, g 500, C 1, ZCYCL 3", py<NGI11, 5, 600>},
+};
+
+void print_equations() {
+  for (const equation_page& page : EQUATION_PAGES)
+    for (const equation& e : page.equations)
+      std::printf("%s\t%s\t%s\t%s\n", page.file.data(), e.id.data(), e.formula.data(), e.source.data());
+}
+
+void print_numbers() {
+  for (const block& b : BLOCKS) {
+    run cmn;
+    prepare(cmn, b.input);
+    std::printf("## %s\n**Worked number.** %s: %s.\n", b.heading, b.input, b.result(cmn).c_str());
+  }
+}
+
+void print_codes() {
+  const auto print = [](const char* family, const auto& codes) {
+    for (const int code : codes) std::printf("%s %d\n", family, code);
+  };
+  print("P-Y", PY_CODES_5);
+  print("T-Z", TZ_CODES_4);
+  print("Q-Z", QZ_CODES);
+  print("Method", std::array{0, 1, 2, 3});
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string what = argc == 2 ? argv[1] : "";
+  if (what == "equations") return print_equations(), 0;
+  if (what == "numbers") return print_numbers(), 0;
+  if (what == "codes") return print_codes(), 0;
+  std::fprintf(stderr, "usage: methods_numbers equations | numbers | codes\n");
+  return 2;
+}
