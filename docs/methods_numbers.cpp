@@ -112,9 +112,9 @@ void set(common& cmn, const std::string& name, double value) {
       {"delta", {&cmn.DELTAF}},
       {"G", {&cmn.GSOIL}},
       {"nu", {&cmn.POIS}},
-      {"tc", {&cmn.TAUCMP, &cmn.TCMTOP, &cmn.TCMBOT}},
-      {"tt", {&cmn.TAUTNS, &cmn.TTNTOP, &cmn.TTNBOT}},
-      {"q", {&cmn.QTIP, &cmn.QTPTOP, &cmn.QTPBOT}},
+      {"tc", {&cmn.TAUCMP, &cmn.TCMP, &cmn.TCMTOP, &cmn.TCMBOT}},
+      {"tt", {&cmn.TAUTNS, &cmn.TTNS, &cmn.TTNTOP, &cmn.TTNBOT}},
+      {"q", {&cmn.QTIP, &cmn.SIGTIP, &cmn.QTPTOP, &cmn.QTPBOT}},
       {"TRESM", {&cmn.TRESMX}},
       {"TZZRSM", {&cmn.TZZRES}},
   };
@@ -182,7 +182,45 @@ std::string earth_pressure(common& cmn) {
 
 std::string given_py(common& cmn) {
   cmn.PYSTR(16, 1, 1) = 30.0, cmn.PYDSP(16, 1, 1) = 0.05, cmn.NPYPNT(1, 1) = 2;
-  return py<PYMAN, 2>(cmn);
+  return "given 30 kPa at 0.05 m, " + py<PYMAN, 2>(cmn);
+}
+
+/// Point N of a T-Z or Q-Z curve of layer 1; below the origin N is negative.
+template <auto ROUTINE, int N, int CODE = 0>
+std::string axial(common& cmn, const curve_table& STR, const curve_table& DSP, char stress) {
+  if constexpr (requires { ROUTINE(cmn, 1, 1, CODE); })
+    ROUTINE(cmn, 1, 1, CODE);
+  else
+    ROUTINE(cmn, 1, 1);
+  return text("%c = %.6g kPa at z = %.6g m, point %d", stress, STR(15 + N, 1, 1), DSP(15 + N, 1, 1), N);
+}
+
+template <auto ROUTINE, int N, int CODE = 0>
+std::string tz(common& cmn) {
+  return axial<ROUTINE, N, CODE>(cmn, cmn.TZSTR, cmn.TZDSP, 't');
+}
+
+template <auto ROUTINE, int N, int CODE = 0>
+std::string qz(common& cmn) {
+  return axial<ROUTINE, N, CODE>(cmn, cmn.QZSTR, cmn.QZDSP, 'q');
+}
+
+std::string given_tz(common& cmn) {
+  cmn.TZSTR(2, 1, 1) = 30.0, cmn.TZDSP(2, 1, 1) = 0.01, cmn.NTZPNT(1, 1) = 2;
+  return "given 30 kPa at 0.01 m, " + tz<TZMAN, 1>(cmn);
+}
+
+std::string given_qz(common& cmn) {
+  cmn.QZSTR(2, 1, 1) = 900.0, cmn.QZDSP(2, 1, 1) = 0.05, cmn.NQZPNT(1, 1) = 2;
+  return "given 900 kPa at 0.05 m, " + qz<QZMAN, 1>(cmn);
+}
+
+/// Tension side of a tip's curve after the modification, without a row of MODIFYQZ.
+std::string tip_tension(common& cmn) {
+  for (int i = 1; i <= 2; ++i) PYMAN(cmn, i, 1), TZMISC(cmn, i, 1, 293), QZMISC(cmn, i, 1, 293);
+  MODIFY(cmn);
+  return text("q = %.6g kPa in compression, %.6g kPa in tension at z = %.6g m", cmn.QZSTR(20, 1, 1),
+              std::abs(cmn.QZSTR(10, 1, 1)), cmn.QZDSP(20, 1, 1));
 }
 
 const block BLOCKS[] = {
@@ -205,6 +243,20 @@ const block BLOCKS[] = {
     {"P-Y 570, ModMat", "Su 150, sig' 40, X 3, D 1, J 0.5, eps50 0.005, ZCYCL 3", py<ISO04, 4, 570>},
     {"P-Y 588, carbonate sand", "phi 30, sig' 50, X 5, D 1, APIJM 400, ZCYCL 3", py<API87, 4, 588>},
     {"P-Y 600, NGI-11", "Su 30, sig' 50, X 5, D 1, J 0.5, g 500, C 1, ZCYCL 3", py<NGI11, 5, 600>},
+    {"T-Z maxima", "tc 80, tt 60, SFSKF 1.5, G 20000, D 1, TRESM 0.9", tz<TZMISC, -3, 293>},
+    {"T-Z clay curve of API", "tc 80, tt 80, G 20000, D 1.5, TRESM 0.8, TZZRSM 0.01", tz<TZMISC, 6, 293>},
+    {"T-Z 0, MANUAL", "SFSKF 1.5", given_tz},
+    {"T-Z 100, 101, 102, 103: LINEAR, AUTO-1, AUTO-2, AUTO-3", "tc 80, tt 60, D 1, TRESM 0.8, TZZRSM 0.02",
+     tz<TZAUTO, -3, 103>},
+    {"T-Z 200, KRAFT", "tc 80, tt 80, G 20000, D 1, TRESM 0.8", tz<TZMISC, 3, 200>},
+    {"T-Z 214, API-2014", "phi 35, tc 80, tt 60, G 20000, D 1", tz<TZMISC, 6, 214>},
+    {"T-Z 293, API-93", "phi 35, tc 80, tt 60, G 20000, D 1", tz<TZMISC, 1, 293>},
+    {"T-Z 588, carbonate sand", "tc 80, tt 60, G 20000, D 1", tz<TZMISC, 2, 588>},
+    {"Q-Z maximum", "q 3000, G 20000, D 1, SFSIGT 1.5", tip_tension},
+    {"Q-Z 0, MANUAL", "SFSIGT 1.5", given_qz},
+    {"Q-Z 100, 101, 102, 103: LINEAR, AUTO-1, AUTO-2, AUTO-3", "q 3000, D 1", qz<QZAUTO, 3, 103>},
+    {"Q-Z 200, ELAPLA", "q 3000, G 20000, nu 0.3, D 1", qz<QZMISC, 2, 200>},
+    {"Q-Z 214 and 293, API-2014 and API-93", "q 3000, G 20000, D 1", qz<QZMISC, 3, 293>},
 };
 
 void print_equations() {

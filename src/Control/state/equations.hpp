@@ -4,6 +4,8 @@
 
 #include "Control/state/equation.hpp"
 #include "Control/state/equations_py.hpp"
+#include "Control/state/equations_qz.hpp"
+#include "Control/state/equations_tz.hpp"
 
 namespace tervak {
 
@@ -15,6 +17,8 @@ struct equation_page {
 
 inline constexpr equation_page EQUATION_PAGES[] = {
     {"py.md", PY_EQUATIONS},
+    {"tz.md", TZ_EQUATIONS},
+    {"qz.md", QZ_EQUATIONS},
 };
 
 /// The equation of a literal id. An id that is in no list does not compile.
