@@ -69,12 +69,38 @@ struct run : common {
       ZBOTM.append(ZMAIN(i));
       ZLAY.append(i == 1 ? 2.0 : 7.0);
       DEPTH(i) = DPCLAY(i) = ZLAY(i);
-      GAMTOT(i) = 20.05, EPS50(i) = 0.01, APIJ(i) = 0.5, GOFAC(i) = TRESMX(i) = 1.0;
+      GAMTOT(i) = 20.05, EPS50(i) = 0.01, APIJ(i) = 0.5, GOFAC(i) = TRESMX(i) = 1.0, DELTAF(i) = 29.0;
     }
     for (int r = 1; r <= 5; ++r) ZTQZ(r) = 2.5 * (r - 1), TZDRAT(r) = 0.01, QZDRAT(r) = 0.05;
     fem::open(units, NFLIS).status("SCRATCH").finish();
   }
 };
+
+[[noreturn]] void refuse(const std::string& input) {
+  std::fprintf(stderr, "methods_numbers: cannot read the input \"%s\"\n", input.c_str());
+  std::exit(2);
+}
+
+/// Values that are not vectors of numbers by layer.
+bool set_of_both(common& cmn, const std::string& name, double value) {
+  for (const int i : {1, 2}) {
+    auto& [FSTR, FDSP, GAP, LIMS, FEND, DEND] = cmn.PYMOD(1, i);
+    const std::map<std::string, double*> places = {{"g", &cmn.PYPARM(i)[0]},
+                                                   {"C", &cmn.PYPARM(i)[1]},
+                                                   {"PYFSTR", &FSTR},
+                                                   {"PYFDSP", &FDSP},
+                                                   {"PYGAP", &GAP},
+                                                   {"TZFNEG", &cmn.TZMOD(1, i)[1]},
+                                                   {"TZFDSP", &cmn.TZMOD(1, i)[2]}};
+    if (name == "NSUBM")
+      cmn.NSUBM(i) = static_cast<int>(value);
+    else if (const auto found = places.find(name); found != places.end())
+      *found->second = value;
+    else
+      return false;
+  }
+  return true;
+}
 
 /// Where a name of an input goes. Values of layers are set in both.
 void set(common& cmn, const std::string& name, double value) {
@@ -84,14 +110,16 @@ void set(common& cmn, const std::string& name, double value) {
       {"SCRSLP", &cmn.SCRSLP},  {"SIGSUR", &cmn.SIGSUR}, {"SIGEMB", &cmn.SIGEMB}, {"AEMB", &cmn.AEMB},
       {"BEMB", &cmn.BEMB},      {"SIGCIR", &cmn.SIGCIR}, {"RADCIR", &cmn.RADCIR}, {"SFSU", &cmn.SFSU},
       {"SFTPHI", &cmn.SFTPHI},  {"SFSKF", &cmn.SFSKF},   {"SFSIGT", &cmn.SFSIGT}, {"GAMPWP", &cmn.GAMPWP},
-      {"load", &cmn.FRCPNT(1)}, {"at", &cmn.FRCDST(1)},
+      {"load", &cmn.FRCPNT(1)}, {"at", &cmn.FRCDST(1)},  {"qc1", &cmn.CPTTOP(1)}, {"qc2", &cmn.CPTTOP(2)},
   };
   if (const auto found = scalars.find(name); found != scalars.end()) {
     *found->second = value;
     if (name == "D") cmn.DIAMP = value, cmn.BIGDSP = 1000.0 * value;
     if (name == "load") cmn.NUMFRC = 1;
+    cmn.CPTBOT = cmn.CPTTOP;
     return;
   }
+  if (set_of_both(cmn, name, value)) return;
   using list = std::vector<vector1<double>*>;
   const std::map<std::string, list> lists = {
       {"phi", {&cmn.PHIR, &cmn.PHI, &cmn.PHIM, &cmn.PHIL}},
@@ -109,20 +137,23 @@ void set(common& cmn, const std::string& name, double value) {
       {"Dr", {&cmn.DRM, &cmn.DR}},
       {"Ip", {&cmn.PLIM, &cmn.PLI}},
       {"St", {&cmn.ST}},
-      {"delta", {&cmn.DELTAF}},
       {"G", {&cmn.GSOIL}},
       {"nu", {&cmn.POIS}},
       {"tc", {&cmn.TAUCMP, &cmn.TCMP, &cmn.TCMTOP, &cmn.TCMBOT}},
       {"tt", {&cmn.TAUTNS, &cmn.TTNS, &cmn.TTNTOP, &cmn.TTNBOT}},
       {"q", {&cmn.QTIP, &cmn.SIGTIP, &cmn.QTPTOP, &cmn.QTPBOT}},
+      {"TCMTOP", {&cmn.TCMTOP}},
+      {"TCMBOT", {&cmn.TCMBOT}},
+      {"SUTOP", {&cmn.SUTOP}},
+      {"SUBOT", {&cmn.SUBOT}},
+      {"SU0", {&cmn.SU0}},
+      {"SU100", {&cmn.SU100}},
       {"TRESM", {&cmn.TRESMX}},
       {"TZZRSM", {&cmn.TZZRES}},
   };
-  if (name == "g" || name == "C") {
-    for (int i = 1; i <= 2; ++i) cmn.PYPARM(i)[name == "g" ? 0 : 1] = value;
-    return;
-  }
-  for (vector1<double>* values : lists.at(name))
+  const auto found = lists.find(name);
+  if (found == lists.end()) refuse(name);
+  for (vector1<double>* values : found->second)
     for (int i = 1; i <= values->size(); ++i) (*values)(i) = value;
 }
 
@@ -148,10 +179,7 @@ void prepare(common& cmn, const std::string& input) {
     set(cmn, name, value);
     if (words.peek() == ',') words.get();
   }
-  if (!words.eof()) {
-    std::fprintf(stderr, "cannot read: %s\n", input.c_str());
-    std::exit(2);
-  }
+  if (!words.eof()) refuse(input);
 }
 
 /// Point N of a curve that a routine makes of layer 1.
@@ -215,12 +243,75 @@ std::string given_qz(common& cmn) {
   return "given 900 kPa at 0.05 m, " + qz<QZMAN, 1>(cmn);
 }
 
-/// Tension side of a tip's curve after the modification, without a row of MODIFYQZ.
-std::string tip_tension(common& cmn) {
-  for (int i = 1; i <= 2; ++i) PYMAN(cmn, i, 1), TZMISC(cmn, i, 1, 293), QZMISC(cmn, i, 1, 293);
+/// Curves of the codes 101, 293 and 293 for both layers, after the modification.
+void modify(common& cmn) {
+  for (int i = 1; i <= 2; ++i) PYAUTO(cmn, i, 1, 101), TZMISC(cmn, i, 1, 293), QZMISC(cmn, i, 1, 293);
   MODIFY(cmn);
+  if (cmn.IERR != 0) std::exit(2);
+}
+
+std::string tip_tension(common& cmn) {
+  modify(cmn);
   return text("q = %.6g kPa in compression, %.6g kPa in tension at z = %.6g m", cmn.QZSTR(20, 1, 1),
               std::abs(cmn.QZSTR(10, 1, 1)), cmn.QZDSP(20, 1, 1));
+}
+
+std::string dead_layer(common& cmn) {
+  modify(cmn);
+  return text("p = %.6g kPa at level 2, %.6g kPa at level 7", cmn.PYSTR(16, 1, 1), cmn.PYSTR(16, 1, 2));
+}
+
+template <int N>
+std::string modified_py(common& cmn) {
+  modify(cmn);
+  return text("p = %.6g kPa at y = %.6g m, point %d", cmn.PYSTR(15 + N, 1, 1), cmn.PYDSP(15 + N, 1, 1), N);
+}
+
+std::string modified_tz(common& cmn) {
+  modify(cmn);
+  return text("t = %.6g kPa at z = %.6g m, point -3", cmn.TZSTR(12, 1, 1), cmn.TZDSP(12, 1, 1));
+}
+
+enum method { API_93, ICP_05, NGI_05 };
+
+/// Skin friction or tip stress of layer 1 by a method of capacity.
+template <method M, bool TIP = false>
+std::string capacity(common& cmn) {
+  constexpr const char* LABELS[] = {"API-93", "ICP-05", "NGI-05"};
+  for (int i = 0; i < 2; ++i) cmn.METHOD.at(static_cast<std::size_t>(i)).assign(LABELS[M]);
+  R5AXCAP(cmn);
+  if (TIP) return text("q = %.6g kPa", cmn.QTIP(1));
+  return text("tc = %.6g kPa, tt = %.6g kPa", cmn.TAUCMP(1), cmn.TAUTNS(1));
+}
+
+/// A value of layer 1 after the soil stage.
+template <vector1<double> common::*VALUE>
+std::string soil(common& cmn, const char* format) {
+  R5SOIL(cmn);
+  return text(format, (cmn.*VALUE)(1));
+}
+
+/// A value of layer 2, level 7, after the layer stage.
+template <vector1<double> common::*VALUE>
+std::string profile(common& cmn, const char* format) {
+  BUILD5(cmn, 2);
+  return text(format, (cmn.*VALUE)(2));
+}
+
+std::string levels(common& cmn) {
+  cmn.LAYCOD = {}, cmn.ZBOTM = {}, cmn.ZLAY = {};
+  BUILD5(cmn, 1);
+  return text("Z = %.6g, %.6g, %.6g, %.6g m", cmn.ZLAY(1), cmn.ZLAY(2), cmn.ZLAY(3), cmn.ZLAY(4));
+}
+
+std::string density(common& cmn) {
+  R5SOIL(cmn);
+  return text("Dr = %.6g, phi = %.6g degrees", cmn.DR(1), cmn.PHIL(1));
+}
+
+std::string overconsolidation(common& cmn) {
+  R5SOIL(cmn);
+  return text("OCR = %.6g, St = %.6g", cmn.OCRL(1), cmn.ST(1));
 }
 
 const block BLOCKS[] = {
@@ -257,6 +348,48 @@ const block BLOCKS[] = {
     {"Q-Z 100, 101, 102, 103: LINEAR, AUTO-1, AUTO-2, AUTO-3", "q 3000, D 1", qz<QZAUTO, 3, 103>},
     {"Q-Z 200, ELAPLA", "q 3000, G 20000, nu 0.3, D 1", qz<QZMISC, 2, 200>},
     {"Q-Z 214 and 293, API-2014 and API-93", "q 3000, G 20000, D 1", qz<QZMISC, 3, 293>},
+    {"Capacity pile", "phi 30, SFTPHI 1.25, sig' 100, D 1, wall 0.3, tip 30, Z 12", capacity<API_93>},
+    {"Method 0, given values", "TCMTOP 20, TCMBOT 60, phi 30, sig' 20",
+     [](common& cmn) { return soil<&common::TAUCMP>(cmn, "ts = %.6g kPa at level 2"); }},
+    {"Method 1, API-93: skin friction in clay", "Su 50, sig' 100", capacity<API_93>},
+    {"Method 1, API-93: skin friction in sand", "phi 30, sig' 100, D 1, wall 0.05", capacity<API_93>},
+    {"Method 1, API-93: tip in sand", "phi 32, sig' 100, D 1, wall 0.05", capacity<API_93, true>},
+    {"Method 2, ICP-05: skin friction in clay", "Su 50, sig' 100, Ip 25, St 2, D 1, wall 0.05, tip 30, Z 12",
+     capacity<ICP_05>},
+    {"Method 2, ICP-05: skin friction in sand", "phi 32, qc 20000, sig' 150, D 1.2, wall 0.04, tip 30, Z 20",
+     capacity<ICP_05>},
+    {"Method 2, ICP-05: tip in sand", "phi 32, qc 25000, Dr 0.7, sig' 200, D 0.762, wall 0.03",
+     capacity<ICP_05, true>},
+    {"Method 2, ICP-05: tip in clay", "Su 100, qc 1500, St 2, Ip 25, sig' 100, D 1, wall 0.05",
+     capacity<ICP_05, true>},
+    {"Method 3, NGI-05: skin friction in clay", "Su 40, sig' 100, Ip 30, D 1, wall 0.05", capacity<NGI_05>},
+    {"Method 3, NGI-05: skin friction in sand",
+     "phi 32, qc 20000, Dr 0.6, sig' 100, D 1, wall 0.05, tip 30, Z 15", capacity<NGI_05>},
+    {"Method 3, NGI-05: tip in sand", "phi 32, qc 25000, Dr 0.6, sig' 200, D 1, wall 0.05",
+     capacity<NGI_05, true>},
+    {"Methods 1, 2 and 3: tip in clay", "Su 50, sig' 100", capacity<API_93, true>},
+    {"Values at the level", "SUTOP 40, SUBOT 80, SFSU 1.2, sig' 20",
+     [](common& cmn) { return soil<&common::SUCMP>(cmn, "Su = %.6g kPa at level 2"); }},
+    {"Relative density, friction angle and cone resistance of sand", "qc 12000, sig' 80", density},
+    {"Mean cone resistance", "qc1 8000, qc2 20000, D 3, phi 30, sig' 40",
+     [](common& cmn) { return soil<&common::CPTAVR>(cmn, "qcm = %.6g kPa at level 2"); }},
+    {"Overconsolidation ratio and sensitivity of clay", "Su 60, sig' 80", overconsolidation},
+    {"Shear modulus", "phi 35, sig' 80",
+     [](common& cmn) { return soil<&common::GSOIL>(cmn, "G = %.6g kPa"); }},
+    {"Levels", "NSUBM 2", levels},
+    {"Effective vertical stress and scour", "GAMM 20.05, ZPWP 0, SCRGEN 1, SCRLOC 3, SCRSLP 30",
+     [](common& cmn) { return profile<&common::SIGZRES>(cmn, "sig' = %.6g kPa at level 7"); }},
+    {"Surface loads", "SIGSUR 5, SIGEMB 50, AEMB 6, BEMB 4, load 1000, at 3, SIGCIR 20, RADCIR 5",
+     [](common& cmn) { return profile<&common::DSIGZ>(cmn, "dsig = %.6g kPa at level 7"); }},
+    {"Depth", "SCRGEN 1, SCRLOC 3, SCRSLP 20",
+     [](common& cmn) { return profile<&common::DEPTH>(cmn, "X = %.6g m at level 7"); }},
+    {"Strength of the layer stage", "SU0 20, SU100 220, SFSU 1.2",
+     [](common& cmn) { return profile<&common::SURED>(cmn, "Su = %.6g kPa at level 7"); }},
+    {"Layers above the local scour level", "phi 30, sig' 50, X 5, D 1, SCRLOC 3, G 20000", dead_layer},
+    {"Factors on P-Y curves", "phi 30, sig' 50, X 5, D 1, G 20000, PYFSTR 0.8, PYFDSP 1.2, PYGAP 0.05",
+     modified_py<2>},
+    {"Factors on T-Z and Q-Z curves", "tc 80, tt 60, D 1, G 20000, TZFNEG 0.7, TZFDSP 1.5", modified_tz},
+    {"Fill-out to 29 points", "phi 30, sig' 50, X 5, D 1, G 20000", modified_py<3>},
 };
 
 void print_equations() {

@@ -8,10 +8,11 @@
 # - every curve code and every capacity method has its block.
 set -eu
 program=$(realpath "$1")
-cd "$(dirname "$0")/../../docs/methods"
-pages=$("$program" equations | cut -f 1 | uniq)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+(cd "$work" && "$program" numbers >numbers)
+cd "$(dirname "$0")/../../docs/methods"
+pages=$("$program" equations | cut -f 1 | uniq)
 
 equations() { # pages; prints page, id, formula and source of each equation line, and what is wrong with a line
   awk '
@@ -57,7 +58,7 @@ printf '## P-Y 10, 100\n**Use.** x\n**Source.** y\n' >"$work/py.md"
 {
   equations $pages | sort | diff "$work/source" - || true
   cut -f 2 "$work/source" | uniq -d | sed 's/^/twice: /'
-  "$program" numbers | diff - <(cat $pages | grep -E '^## |^\*\*Worked number') || true
+  diff "$work/numbers" <(cat $pages | grep -E '^## |^\*\*Worked number') || true
   shape $pages
   codes $pages
 } >"$work/faults"

@@ -3,6 +3,10 @@
 #include <span>
 
 #include "Control/state/equation.hpp"
+#include "Control/state/equations_axial.hpp"
+#include "Control/state/equations_correlations.hpp"
+#include "Control/state/equations_layers.hpp"
+#include "Control/state/equations_modification.hpp"
 #include "Control/state/equations_py.hpp"
 #include "Control/state/equations_qz.hpp"
 #include "Control/state/equations_tz.hpp"
@@ -19,6 +23,10 @@ inline constexpr equation_page EQUATION_PAGES[] = {
     {"py.md", PY_EQUATIONS},
     {"tz.md", TZ_EQUATIONS},
     {"qz.md", QZ_EQUATIONS},
+    {"axial.md", AXIAL_EQUATIONS},
+    {"correlations.md", CORRELATIONS_EQUATIONS},
+    {"layers.md", LAYERS_EQUATIONS},
+    {"modification.md", MODIFICATION_EQUATIONS},
 };
 
 /// The equation of a literal id. An id that is in no list does not compile.
