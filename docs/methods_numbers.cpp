@@ -11,6 +11,7 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "Control/AxialCapacityControl.hpp"
 #include "Control/build5.hpp"
@@ -52,7 +53,7 @@ struct run : common {
     ATMPRS = 101.3;
     ZCYCL = ZPWP = -1.0;
     SUSTIF = 96.0;
-    NUMDIA = 1;
+    NUMDIA = NUMFRC = 1;
     NUMLAY = NUMLAYM = NUMCLY = 2;
     NUMTQZ = 5;
     ZONINF = 10.0;
@@ -76,85 +77,84 @@ struct run : common {
   }
 };
 
-[[noreturn]] void refuse(const std::string& input) {
-  std::fprintf(stderr, "methods_numbers: cannot read the input \"%s\"\n", input.c_str());
-  std::exit(2);
+using places = std::map<std::string, std::vector<double*>>;
+
+/// The values of layers that a name of an input sets, in both layers.
+places places_by_layer(common& c) {
+  const auto both = [](std::initializer_list<vector1<double>*> lists) {
+    std::vector<double*> all;
+    for (vector1<double>* list : lists)
+      for (int i = 1; i <= list->size(); ++i) all.push_back(&(*list)(i));
+    return all;
+  };
+  return {
+      {"phi", both({&c.PHIR, &c.PHI, &c.PHIM, &c.PHIL})},
+      {"Su", both({&c.SURED, &c.SUCMP, &c.SUTOP, &c.SUBOT, &c.SUCLAY})},
+      {"SUTOP", both({&c.SUTOP})},
+      {"SUBOT", both({&c.SUBOT})},
+      {"SU0", both({&c.SU0})},
+      {"SU100", both({&c.SU100})},
+      {"sig'", both({&c.SIGZRES, &c.SIGZ})},
+      {"dsig", both({&c.DSIGZ})},
+      {"X", both({&c.DEPTH})},
+      {"Z", both({&c.ZLAY, &c.ZNOW})},
+      {"J", both({&c.APIJ})},
+      {"APIJM", both({&c.APIJ})},
+      {"eps50", both({&c.EPS50})},
+      {"KSOILM", both({&c.KSOILM})},
+      {"GAMM", both({&c.GAMTOT})},
+      {"qc", both({&c.CPTTOP, &c.CPTBOT, &c.CPTTIP, &c.CPTAVR})},
+      {"Dr", both({&c.DRM, &c.DR})},
+      {"Ip", both({&c.PLIM, &c.PLI})},
+      {"St", both({&c.ST})},
+      {"G", both({&c.GSOIL})},
+      {"nu", both({&c.POIS})},
+      {"tc", both({&c.TAUCMP, &c.TCMP})},
+      {"tt", both({&c.TAUTNS, &c.TTNS})},
+      {"q", both({&c.QTIP, &c.SIGTIP})},
+      {"TCMTOP", both({&c.TCMTOP})},
+      {"TCMBOT", both({&c.TCMBOT})},
+      {"TRESM", both({&c.TRESMX})},
+      {"TZZRSM", both({&c.TZZRES})},
+  };
 }
 
-/// Values that are not vectors of numbers by layer.
-bool set_of_both(common& cmn, const std::string& name, double value) {
-  for (const int i : {1, 2}) {
-    auto& [FSTR, FDSP, GAP, LIMS, FEND, DEND] = cmn.PYMOD(1, i);
-    const std::map<std::string, double*> places = {{"g", &cmn.PYPARM(i)[0]},
-                                                   {"C", &cmn.PYPARM(i)[1]},
-                                                   {"PYFSTR", &FSTR},
-                                                   {"PYFDSP", &FDSP},
-                                                   {"PYGAP", &GAP},
-                                                   {"TZFNEG", &cmn.TZMOD(1, i)[1]},
-                                                   {"TZFDSP", &cmn.TZMOD(1, i)[2]}};
-    if (name == "NSUBM")
-      cmn.NSUBM(i) = static_cast<int>(value);
-    else if (const auto found = places.find(name); found != places.end())
-      *found->second = value;
-    else
-      return false;
-  }
-  return true;
-}
-
-/// Where a name of an input goes. Values of layers are set in both.
-void set(common& cmn, const std::string& name, double value) {
-  const std::map<std::string, double*> scalars = {
-      {"D", &cmn.DIAM(1)},      {"ZCYCL", &cmn.ZCYCL},   {"SUSTIF", &cmn.SUSTIF}, {"ZPWP", &cmn.ZPWP},
-      {"wall", &cmn.WALL},      {"tip", &cmn.ZTIP},      {"SCRGEN", &cmn.SCRGEN}, {"SCRLOC", &cmn.SCRLOC},
-      {"SCRSLP", &cmn.SCRSLP},  {"SIGSUR", &cmn.SIGSUR}, {"SIGEMB", &cmn.SIGEMB}, {"AEMB", &cmn.AEMB},
-      {"BEMB", &cmn.BEMB},      {"SIGCIR", &cmn.SIGCIR}, {"RADCIR", &cmn.RADCIR}, {"SFSU", &cmn.SFSU},
-      {"SFTPHI", &cmn.SFTPHI},  {"SFSKF", &cmn.SFSKF},   {"SFSIGT", &cmn.SFSIGT}, {"GAMPWP", &cmn.GAMPWP},
-      {"load", &cmn.FRCPNT(1)}, {"at", &cmn.FRCDST(1)},  {"qc1", &cmn.CPTTOP(1)}, {"qc2", &cmn.CPTTOP(2)},
+/// The other values that a name of an input sets.
+places single_places(common& c) {
+  auto &P1 = c.PYPARM(1), &P2 = c.PYPARM(2);
+  auto &Y1 = c.PYMOD(1, 1), &Y2 = c.PYMOD(1, 2);
+  auto &T1 = c.TZMOD(1, 1), &T2 = c.TZMOD(1, 2);
+  return {
+      {"D", {&c.DIAM(1), &c.DIAMP}},
+      {"ZCYCL", {&c.ZCYCL}},
+      {"ZPWP", {&c.ZPWP}},
+      {"wall", {&c.WALL}},
+      {"tip", {&c.ZTIP}},
+      {"SCRGEN", {&c.SCRGEN}},
+      {"SCRLOC", {&c.SCRLOC}},
+      {"SCRSLP", {&c.SCRSLP}},
+      {"SIGSUR", {&c.SIGSUR}},
+      {"SIGEMB", {&c.SIGEMB}},
+      {"AEMB", {&c.AEMB}},
+      {"BEMB", {&c.BEMB}},
+      {"SIGCIR", {&c.SIGCIR}},
+      {"RADCIR", {&c.RADCIR}},
+      {"SFSU", {&c.SFSU}},
+      {"SFTPHI", {&c.SFTPHI}},
+      {"SFSKF", {&c.SFSKF}},
+      {"SFSIGT", {&c.SFSIGT}},
+      {"load", {&c.FRCPNT(1)}},
+      {"at", {&c.FRCDST(1)}},
+      {"qc1", {&c.CPTTOP(1), &c.CPTBOT(1)}},
+      {"qc2", {&c.CPTTOP(2), &c.CPTBOT(2)}},
+      {"g", {&P1[0], &P2[0]}},
+      {"C", {&P1[1], &P2[1]}},
+      {"PYFSTR", {&Y1[0], &Y2[0]}},
+      {"PYFDSP", {&Y1[1], &Y2[1]}},
+      {"PYGAP", {&Y1[2], &Y2[2]}},
+      {"TZFNEG", {&T1[1], &T2[1]}},
+      {"TZFDSP", {&T1[2], &T2[2]}},
   };
-  if (const auto found = scalars.find(name); found != scalars.end()) {
-    *found->second = value;
-    if (name == "D") cmn.DIAMP = value, cmn.BIGDSP = 1000.0 * value;
-    if (name == "load") cmn.NUMFRC = 1;
-    cmn.CPTBOT = cmn.CPTTOP;
-    return;
-  }
-  if (set_of_both(cmn, name, value)) return;
-  using list = std::vector<vector1<double>*>;
-  const std::map<std::string, list> lists = {
-      {"phi", {&cmn.PHIR, &cmn.PHI, &cmn.PHIM, &cmn.PHIL}},
-      {"Su", {&cmn.SURED, &cmn.SUCMP, &cmn.SUTOP, &cmn.SUBOT, &cmn.SUCLAY, &cmn.SU0, &cmn.SU100}},
-      {"sig'", {&cmn.SIGZRES, &cmn.SIGZ}},
-      {"dsig", {&cmn.DSIGZ}},
-      {"X", {&cmn.DEPTH}},
-      {"Z", {&cmn.ZLAY, &cmn.ZNOW}},
-      {"J", {&cmn.APIJ}},
-      {"APIJM", {&cmn.APIJ}},
-      {"eps50", {&cmn.EPS50}},
-      {"KSOILM", {&cmn.KSOILM}},
-      {"GAMM", {&cmn.GAMTOT}},
-      {"qc", {&cmn.CPTTOP, &cmn.CPTBOT, &cmn.CPTTIP, &cmn.CPTAVR}},
-      {"Dr", {&cmn.DRM, &cmn.DR}},
-      {"Ip", {&cmn.PLIM, &cmn.PLI}},
-      {"St", {&cmn.ST}},
-      {"G", {&cmn.GSOIL}},
-      {"nu", {&cmn.POIS}},
-      {"tc", {&cmn.TAUCMP, &cmn.TCMP, &cmn.TCMTOP, &cmn.TCMBOT}},
-      {"tt", {&cmn.TAUTNS, &cmn.TTNS, &cmn.TTNTOP, &cmn.TTNBOT}},
-      {"q", {&cmn.QTIP, &cmn.SIGTIP, &cmn.QTPTOP, &cmn.QTPBOT}},
-      {"TCMTOP", {&cmn.TCMTOP}},
-      {"TCMBOT", {&cmn.TCMBOT}},
-      {"SUTOP", {&cmn.SUTOP}},
-      {"SUBOT", {&cmn.SUBOT}},
-      {"SU0", {&cmn.SU0}},
-      {"SU100", {&cmn.SU100}},
-      {"TRESM", {&cmn.TRESMX}},
-      {"TZZRSM", {&cmn.TZZRES}},
-  };
-  const auto found = lists.find(name);
-  if (found == lists.end()) refuse(name);
-  for (vector1<double>* values : found->second)
-    for (int i = 1; i <= values->size(); ++i) (*values)(i) = value;
 }
 
 std::string text(const char* format, auto... values) {
@@ -171,15 +171,21 @@ struct block {
   std::string (*result)(common&);
 };
 
-void prepare(common& cmn, const std::string& input) {
+/// Sets what an input says. False when it cannot be read.
+bool prepare(common& cmn, const std::string& input) {
+  places names = single_places(cmn);
+  names.merge(places_by_layer(cmn));
   std::istringstream words(input);
   std::string name;
   double value = 0;
   while (words >> name >> value) {
-    set(cmn, name, value);
+    const auto found = names.find(name);
+    if (found == names.end()) return false;
+    for (double* place : found->second) *place = value;
     if (words.peek() == ',') words.get();
   }
-  if (!words.eof()) refuse(input);
+  cmn.BIGDSP = 1000.0 * cmn.DIAM(1);
+  return words.eof();
 }
 
 /// Point N of a curve that a routine makes of layer 1.
@@ -300,8 +306,10 @@ std::string profile(common& cmn, const char* format) {
 
 std::string levels(common& cmn) {
   cmn.LAYCOD = {}, cmn.ZBOTM = {}, cmn.ZLAY = {};
+  cmn.NSUBM = {2, 2};
   BUILD5(cmn, 1);
-  return text("Z = %.6g, %.6g, %.6g, %.6g m", cmn.ZLAY(1), cmn.ZLAY(2), cmn.ZLAY(3), cmn.ZLAY(4));
+  return text("two layers in each main layer, Z = %.6g, %.6g, %.6g, %.6g m", cmn.ZLAY(1), cmn.ZLAY(2),
+              cmn.ZLAY(3), cmn.ZLAY(4));
 }
 
 std::string density(common& cmn) {
@@ -376,7 +384,7 @@ const block BLOCKS[] = {
     {"Overconsolidation ratio and sensitivity of clay", "Su 60, sig' 80", overconsolidation},
     {"Shear modulus", "phi 35, sig' 80",
      [](common& cmn) { return soil<&common::GSOIL>(cmn, "G = %.6g kPa"); }},
-    {"Levels", "NSUBM 2", levels},
+    {"Levels", "D 1", levels},
     {"Effective vertical stress and scour", "GAMM 20.05, ZPWP 0, SCRGEN 1, SCRLOC 3, SCRSLP 30",
      [](common& cmn) { return profile<&common::SIGZRES>(cmn, "sig' = %.6g kPa at level 7"); }},
     {"Surface loads", "SIGSUR 5, SIGEMB 50, AEMB 6, BEMB 4, load 1000, at 3, SIGCIR 20, RADCIR 5",
@@ -398,12 +406,16 @@ void print_equations() {
       std::printf("%s\t%s\t%s\t%s\n", page.file.data(), e.id.data(), e.formula.data(), e.source.data());
 }
 
-void print_numbers() {
+bool print_numbers() {
   for (const block& b : BLOCKS) {
     run cmn;
-    prepare(cmn, b.input);
+    if (!prepare(cmn, b.input)) {
+      std::fprintf(stderr, "methods_numbers: cannot read the input \"%s\"\n", b.input);
+      return false;
+    }
     std::printf("## %s\n**Worked number.** %s: %s.\n", b.heading, b.input, b.result(cmn).c_str());
   }
+  return true;
 }
 
 void print_codes() {
@@ -421,7 +433,7 @@ void print_codes() {
 int main(int argc, char** argv) {
   const std::string what = argc == 2 ? argv[1] : "";
   if (what == "equations") return print_equations(), 0;
-  if (what == "numbers") return print_numbers(), 0;
+  if (what == "numbers") return print_numbers() ? 0 : 1;
   if (what == "codes") return print_codes(), 0;
   std::fprintf(stderr, "usage: methods_numbers equations | numbers | codes\n");
   return 2;
