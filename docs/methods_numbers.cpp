@@ -18,8 +18,8 @@
 #include "Control/state/common.hpp"
 #include "Control/state/equations.hpp"
 #include "fem/open_chain.hpp"
-#include "IO/input/curve_codes.hpp"
 #include "SkinFriction/soilInput.hpp"
+#include "SoilCurves/axial/axial_methods.hpp"
 #include "SoilCurves/axial/QZAUTO.hpp"
 #include "SoilCurves/axial/QZMAN.hpp"
 #include "SoilCurves/axial/QZMISC.hpp"
@@ -33,6 +33,7 @@
 #include "SoilCurves/py/APILAT.hpp"
 #include "SoilCurves/py/ISO04.hpp"
 #include "SoilCurves/py/NGIPy.hpp"
+#include "SoilCurves/py/py_methods.hpp"
 #include "SoilCurves/py/PYAUTO.hpp"
 #include "SoilCurves/py/PYMAN.hpp"
 #include "SoilCurves/py/PYULT.hpp"
@@ -251,7 +252,7 @@ std::string given_qz(common& cmn) {
 
 /// Curves of the codes 101, 293 and 293 for both layers, after the modification.
 void modify(common& cmn) {
-  for (int i = 1; i <= 2; ++i) PYAUTO(cmn, i, 1, 101), TZMISC(cmn, i, 1, 293), QZMISC(cmn, i, 1, 293);
+  for (layer_number i(1); i <= 2; ++i) PYAUTO(cmn, i, 1, 101), TZMISC(cmn, i, 1, 293), QZMISC(cmn, i, 1, 293);
   MODIFY(cmn);
   if (cmn.IERR != 0) std::exit(2);
 }
@@ -418,14 +419,17 @@ bool print_numbers() {
   return true;
 }
 
+/// The tables of methods: family, code, label and the revisions that may give it; then the capacity methods.
 void print_codes() {
-  const auto print = [](const char* family, const auto& codes) {
-    for (const int code : codes) std::printf("%s %d\n", family, code);
+  const auto print = [](const char* family, curve_methods methods) {
+    for (const curve_method& row : methods)
+      std::printf("%s %d %s%s %s\n", family, row.code, accepts(methods, row.code, 4) ? "4" : "",
+                  accepts(methods, row.code, 5) ? "5" : "", row.label);
   };
-  print("P-Y", PY_CODES_5);
-  print("T-Z", TZ_CODES_4);
-  print("Q-Z", QZ_CODES);
-  print("Method", std::array{0, 1, 2, 3});
+  print("P-Y", py_methods());
+  print("T-Z", tz_methods());
+  print("Q-Z", qz_methods());
+  for (int method = 0; method <= 3; ++method) std::printf("Method %d 5\n", method);
 }
 
 }  // namespace

@@ -22,12 +22,12 @@ struct output_test : scratch_run {
     allocate_layer_tables(cmn);
     cmn.NUMTQZ = 2;
     cmn.ZTQZ(2) = 1000.0;
-    for (int L = 1; L <= layers; ++L) {
+    for (layer_number L(1); L <= layers; ++L) {
       cmn.LAYCOD.append({1, 284, 200, 200});
       cmn.ZBOTM.append(2.0 * L);
       cmn.ZLAY.append(2.0 * L - 1.0);
       cmn.PHIR(L) = 35.0;
-      for (int ND = 1; ND <= cmn.NUMDIA; ++ND) {
+      for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND) {
         cmn.NPYPNT(ND, L) = cmn.NTZPNT(ND, L) = cmn.NQZPNT(ND, L) = cmn.MAXPNT;
         for (int P = 1; P <= cmn.MAXPNT; ++P) {
           cmn.PYDSP(P, ND, L) = cmn.TZDSP(P, ND, L) = cmn.QZDSP(P, ND, L) = 0.01 * (P - 15);

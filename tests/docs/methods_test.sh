@@ -39,7 +39,7 @@ shape() { # pages; the parts of each block, in order; Points belongs to the page
 }
 
 codes() { # pages; prints each code and method that no heading names
-  "$program" codes | while read -r family code; do
+  "$program" codes | while read -r family code _; do
     cat "$@" | grep -qE "^## $family .*\b$code\b" || echo "no block: $family $code"
   done
 }

@@ -43,6 +43,10 @@ struct small_layer : work_directory {
   [[nodiscard]] std::string log() const { return get("fem_io_unit_0" + std::to_string(cmn.NFLOG)); }
 
   /// Point i of a P-Y curve; the origin is 0, the negative branch below it.
-  [[nodiscard]] double p(int i, int NL = 1, int ND = 1) const { return cmn.PYSTR(cmn.MIDPNT() + i, ND, NL); }
-  [[nodiscard]] double y(int i, int NL = 1, int ND = 1) const { return cmn.PYDSP(cmn.MIDPNT() + i, ND, NL); }
+  [[nodiscard]] double p(int i, tervak::layer_number NL = 1, tervak::diameter_number ND = 1) const {
+    return cmn.PYSTR(cmn.MIDPNT() + i, ND, NL);
+  }
+  [[nodiscard]] double y(int i, tervak::layer_number NL = 1, tervak::diameter_number ND = 1) const {
+    return cmn.PYDSP(cmn.MIDPNT() + i, ND, NL);
+  }
 };

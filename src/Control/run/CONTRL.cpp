@@ -148,7 +148,7 @@ bool read_monopile(common& cmn, int PROFILECOUNT) {
 }
 
 bool make_all_curves(common& cmn) {
-  for (int NL = 1; NL <= cmn.NUMLAY; ++NL)
+  for (layer_number NL(1); NL <= cmn.NUMLAY; ++NL)
     if (!make_curves(cmn, NL)) return ERROR_END;
   MODIFY(cmn);
   if (cmn.IERR != 0) {

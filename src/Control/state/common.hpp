@@ -28,7 +28,7 @@ struct layer_code {
 
 /// A value of the depth table at layer NL, kept from one diameter of the layer to the next; NL 0 is none.
 struct depth_lookup {
-  int NL = 0;
+  layer_number NL;
   double YI = 0;
 };
 

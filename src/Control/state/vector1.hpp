@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "Control/state/layer_number.hpp"
+
 namespace tervak {
 
 /// A vector that counts from 1, as the engineer does: X(1) is the first. Every access is checked and throws
@@ -45,8 +47,8 @@ class table2 {
     layers_ = layers;
     items_.assign(static_cast<std::size_t>(diameters) * static_cast<std::size_t>(layers), value);
   }
-  T& operator()(int nd, int nl) { return items_[place(nd, nl)]; }
-  const T& operator()(int nd, int nl) const { return items_[place(nd, nl)]; }
+  T& operator()(diameter_number nd, layer_number nl) { return items_[place(nd, nl)]; }
+  const T& operator()(diameter_number nd, layer_number nl) const { return items_[place(nd, nl)]; }
 
  private:
   [[nodiscard]] std::size_t place(int nd, int nl) const {
@@ -68,8 +70,10 @@ class curve_table {
                       static_cast<std::size_t>(layers),
                   0.0);
   }
-  double& operator()(int p, int nd, int nl) { return items_[place(p, nd, nl)]; }
-  const double& operator()(int p, int nd, int nl) const { return items_[place(p, nd, nl)]; }
+  double& operator()(int p, diameter_number nd, layer_number nl) { return items_[place(p, nd, nl)]; }
+  const double& operator()(int p, diameter_number nd, layer_number nl) const {
+    return items_[place(p, nd, nl)];
+  }
 
  private:
   [[nodiscard]] std::size_t place(int p, int nd, int nl) const {

@@ -46,7 +46,7 @@ struct diameters {
 };
 diameters find_diameters(const common& cmn, double D) {
   if (cmn.EPS > D) return {1, cmn.NUMDIA};
-  for (int ND = 1; ND <= cmn.NUMDIA; ++ND)
+  for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND)
     if (cmn.EPS > std::abs(D - cmn.DIAM(ND))) return {ND, ND};
   return {0, 0};
 }
@@ -101,8 +101,8 @@ void read_family(common& cmn, const std::vector<Record>& records, table2<std::ar
     const int fault = value_fault(cmn.EPS, values);
     if (fault != 0) return fail(cmn, NOT_ACCEPTED, texts.values, i, fault);
 
-    for (int NL = now.L1; NL <= now.L2; ++NL)
-      for (int ND = held.first; ND <= held.last; ++ND) factors(ND, NL) = values;
+    for (auto NL = layer_number::of(now.L1); NL <= now.L2; ++NL)
+      for (auto ND = diameter_number::of(held.first); ND <= held.last; ++ND) factors(ND, NL) = values;
     if (now.L2 >= cmn.NUMLAY && held.last == cmn.NUMDIA) return check_end(cmn, records, texts, i);
   }
 }

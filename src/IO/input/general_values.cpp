@@ -102,7 +102,7 @@ void read_diameters(common& cmn, const Tervak& profile) {
   if (cmn.NUMDIA > ROOM)
     return fail(cmn, TOO_MANY_DIAMETERS, "(/,' **** SR/READGE : NUMDIA,MAXDIA=',2i5)", cmn.NUMDIA, ROOM);
   cmn.DIAM.allocate(cmn.NUMDIA);
-  for (int ND = 1; ND <= cmn.NUMDIA; ++ND)
+  for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND)
     cmn.DIAM(ND) = cmn.CONVERTER->Length(entry(profile.GetTervakInputData().Diameters, ND));
 
   if (cmn.NUMDIA < 1 || cmn.NUMDIA > cmn.MAXDIA)

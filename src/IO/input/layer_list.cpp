@@ -1,8 +1,9 @@
 #include "Control/state/report.hpp"
-#include "IO/input/curve_codes.hpp"
 #include "IO/input/input_steps.hpp"
 #include "IO/input/revision4_soil.hpp"
 #include "IO/units/TervakUnitConverter.hpp"
+#include "SoilCurves/axial/axial_methods.hpp"
+#include "SoilCurves/py/py_methods.hpp"
 
 namespace tervak {
 
@@ -39,8 +40,8 @@ void append_codes(common& cmn, int i, const LayerRecord& record) {
   if (record.SoilType < 1 || record.SoilType > cmn.NUMTYP)
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/READG2 : SOIL TYPE ERROR  NOW,TYPE,NUMTYP=',3i5)", i,
                 record.SoilType, cmn.NUMTYP);
-  if (!accepts(PY_CODES_4, record.PyCode) || !accepts(TZ_CODES_4, record.TzCode) ||
-      !accepts(QZ_CODES, record.QzCode))
+  if (!accepts(py_methods(), record.PyCode, 4) || !accepts(tz_methods(), record.TzCode, 4) ||
+      !accepts(qz_methods(), record.QzCode, 4))
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/READG2 : PY/TZ/QZ CODE ERROR  NOW,CODES=',4i5)", i,
                 record.PyCode, record.TzCode, record.QzCode);
   for (int n = record.FirstLayer; n <= record.LastLayer; ++n)

@@ -42,7 +42,7 @@ work_lists read_points(const common& cmn, const ManualCurveRecord& record, int N
   return points;
 }
 
-void check_points(common& cmn, const curve_family& family, int NL, int N, const work_lists& points) {
+void check_points(common& cmn, const curve_family& family, layer_number NL, int N, const work_lists& points) {
   const auto& [stress, displacement] = points;
   if (N < 2 || N > family.most_points) return fail(cmn, NOT_ACCEPTED, family.points_text, NL, N);
   if (family.starts_at_origin && (std::abs(stress(1)) > cmn.EPS || std::abs(displacement(1)) > cmn.EPS))
@@ -53,8 +53,8 @@ void check_points(common& cmn, const curve_family& family, int NL, int N, const 
       return fail(cmn, NOT_ACCEPTED, family.sequence_text, NL, displacement(k - 1), displacement(k));
 }
 
-void read_curve(common& cmn, const curve_family& family, const curve_store& curves, int NL, int ND,
-                const ManualCurveRecord& record) {
+void read_curve(common& cmn, const curve_family& family, const curve_store& curves, layer_number NL,
+                diameter_number ND, const ManualCurveRecord& record) {
   const int N = static_cast<int>((record.*family.counted).size());
   curves.count(ND, NL) = N;
   const work_lists points = read_points(cmn, record, N);
@@ -73,9 +73,9 @@ void read_curve(common& cmn, const curve_family& family, const curve_store& curv
 void read_family(common& cmn, const curve_family& family, const curve_store& curves,
                  const std::vector<ManualCurveRecord>& records) {
   int next = 1;
-  for (int NL = 1; NL <= cmn.NUMLAY; ++NL) {
+  for (layer_number NL(1); NL <= cmn.NUMLAY; ++NL) {
     if (cmn.LAYCOD(NL).*family.code != 0) continue;
-    for (int ND = 1; ND <= cmn.NUMDIA; ++ND) {
+    for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND) {
       read_curve(cmn, family, curves, NL, ND, entry(records, next++));
       if (cmn.IERR != 0) return;
     }

@@ -1,10 +1,11 @@
 #include <cmath>
 
 #include "Control/state/report.hpp"
-#include "IO/input/curve_codes.hpp"
 #include "IO/input/input_steps.hpp"
 #include "IO/input/revision5_sections.hpp"
 #include "IO/units/TervakUnitConverter.hpp"
+#include "SoilCurves/axial/axial_methods.hpp"
+#include "SoilCurves/py/py_methods.hpp"
 
 namespace tervak {
 
@@ -55,36 +56,23 @@ void check_count(common& cmn, int m) {
 }
 
 void check_codes(common& cmn, int m) {
-  if (!accepts(PY_CODES_5, cmn.PYCODM(m)))
+  if (!accepts(py_methods(), cmn.PYCODM(m), 5))
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/REV5INP : Non-accepted P-Y code. Layer,code=',2i5)", m,
                 cmn.PYCODM(m));
-  if (!accepts(TZ_CODES_5, cmn.TZCODM(m)))
+  if (!accepts(tz_methods(), cmn.TZCODM(m), 5))
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/REV5INP : Non-accepted T-Z code. Layer,code=',2i5)", m,
                 cmn.TZCODM(m));
-  if (!accepts(QZ_CODES, cmn.QZCODM(m)))
+  if (!accepts(qz_methods(), cmn.QZCODM(m), 5))
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/REV5INP : Non-accepted Q-Z code. Layer,code=',2i5)", m,
                 cmn.QZCODM(m));
 }
 
-/// Some P-Y methods are for one kind of soil only.
+/// Some P-Y methods are for one kind of soil only. A main layer with a strength is clay.
 void check_code_against_soil(common& cmn, int m) {
   const double Q = cmn.SUTOP(m) + cmn.SUBOT(m);
-  const int code = cmn.PYCODM(m);
-  if (code == 570 && cmn.EPS > Q)
-    return fail(
-        cmn, NOT_ACCEPTED,
-        "(/,' **** SR/REV5INP : Non-accepted P-Y code. Layer,code=',2i5,/,' This is a sand layer, p-y code 570 (Modified Matlock',') is for clay only')",
-        m, code);
-  if (code == 588 && Q > cmn.EPS)
-    return fail(
-        cmn, NOT_ACCEPTED,
-        "(/,' **** SR/REV5INP : Non-accepted P-Y code. Layer,code=',2i5,/,' This is a clay layer, p-y code 588 is for carbonate',' sand only')",
-        m, code);
-  if (code == 600 && cmn.EPS > Q)
-    return fail(
-        cmn, NOT_ACCEPTED,
-        "(/,' **** SR/REV5INP : Non-accepted P-Y code. Layer,code=',2i5,/,' This is a sand layer, p-y code 600 (NGI-2011',') is for soft clay only')",
-        m, code);
+  const curve_method& method = *find_method(py_methods(), cmn.PYCODM(m));
+  if ((method.soil == soil_kind::clay && cmn.EPS > Q) || (method.soil == soil_kind::sand && Q > cmn.EPS))
+    fail(cmn, NOT_ACCEPTED, method.wrong_soil, m, method.code);
 }
 
 void check_crack(common& cmn, int m) {

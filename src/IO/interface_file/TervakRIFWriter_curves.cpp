@@ -19,7 +19,8 @@ struct characteristics {
 
 /// Only a greater quotient replaces the slope, so that a falling stretch or the NaN of two equal points does
 /// not; a rise at one displacement is infinite.
-characteristics characterise(const curve_table& STR, const curve_table& DSP, int points, int ND, int L) {
+characteristics characterise(const curve_table& STR, const curve_table& DSP, int points,
+                             tervak::diameter_number ND, tervak::layer_number L) {
   characteristics found;
   for (int P = 1; P <= points; ++P) {
     const double stress = STR(P, ND, L);
@@ -39,8 +40,8 @@ struct curve_view {
   int N;  ///< points in use
 };
 
-void write_curve(std::ostream& stream, const curve_view& curve, int PROFILE, int ND, int L,
-                 const characteristics& found, double value3) {
+void write_curve(std::ostream& stream, const curve_view& curve, int PROFILE, tervak::diameter_number ND,
+                 tervak::layer_number L, const characteristics& found, double value3) {
   std::vector<double> values;
   values.reserve(static_cast<std::size_t>(curve.N) * 2 + 8);
   values.assign({2.0 * curve.N + 8.0, static_cast<double>(PROFILE), static_cast<double>(ND),
@@ -56,9 +57,9 @@ void write_curve(std::ostream& stream, const curve_view& curve, int PROFILE, int
 }  // namespace
 
 void write_curves(std::ostream& stream, const common& cmn, int PROFILE) {
-  for (int L = 1; L <= cmn.NUMLAY; ++L) {
+  for (tervak::layer_number L(1); L <= cmn.NUMLAY; ++L) {
     const double open_crack = cmn.OPEN(cmn.LAYCOD(L).TYP) == 1 ? 1.0 : 0.0;
-    for (int ND = 1; ND <= cmn.NUMDIA; ++ND) {
+    for (tervak::diameter_number ND(1); ND <= cmn.NUMDIA; ++ND) {
       const characteristics PY = characterise(cmn.PYSTR, cmn.PYDSP, cmn.MAXPNT, ND, L);
       const characteristics QZ = characterise(cmn.QZSTR, cmn.QZDSP, cmn.MAXPNT, ND, L);
       const characteristics TZ = characterise(cmn.TZSTR, cmn.TZDSP, cmn.MAXPNT, ND, L);

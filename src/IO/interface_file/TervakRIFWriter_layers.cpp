@@ -16,7 +16,7 @@ namespace {
 
 /// Shear modulus G and Poisson's ratio V of layer L. The depth table is looked up in a revision 5 profile
 /// too, so that its faults are found there as well, though the values then come from the layer.
-bool elastic_values(common& cmn, int L, double& G, double& V) {
+bool elastic_values(common& cmn, tervak::layer_number L, double& G, double& V) {
   int IERR = 0;
   Interpolate(cmn.NUMTQZ, 1, cmn.ZTQZ, cmn.G0SOIL, cmn.ZLAY(L), G, IERR);
   if (IERR != 0) return false;
@@ -37,7 +37,7 @@ bool elastic_values(common& cmn, int L, double& G, double& V) {
 }  // namespace
 
 bool write_layers(std::ostream& stream, common& cmn, int PROFILE) {
-  for (int L = 1; L <= cmn.NUMLAY; ++L) {
+  for (tervak::layer_number L(1); L <= cmn.NUMLAY; ++L) {
     double G = 0.0;
     double V = 0.0;
     if (!elastic_values(cmn, L, G, V)) return false;

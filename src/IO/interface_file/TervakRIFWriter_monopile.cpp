@@ -13,7 +13,7 @@ namespace {
 
 /// `points` hold the displacement first; in the record the force goes first.
 void write_points(std::ostream& stream, std::string_view name, const MonoPileCurve& points, int PROFILE,
-                  int ND, int L) {
+                  tervak::diameter_number ND, tervak::layer_number L) {
   const auto M = static_cast<double>(points.size());
   std::vector<double> values;
   values.reserve(points.size() * 2 + 5);
@@ -30,8 +30,8 @@ void write_points(std::ostream& stream, std::string_view name, const MonoPileCur
 
 void write_monopile(std::ostream& stream, const tervak::common& cmn, int PROFILE) {
   const auto& data = *cmn.MONOPILE;
-  for (int L = 1; L <= cmn.NUMLAY; ++L) {
-    for (int ND = 1; ND <= cmn.NUMDIA; ++ND) {
+  for (tervak::layer_number L(1); L <= cmn.NUMLAY; ++L) {
+    for (tervak::diameter_number ND(1); ND <= cmn.NUMDIA; ++ND) {
       if (data.HasBMThetaData())
         write_points(stream, "RVSOILBM", data.GetBMThetaCurve(ND, L), PROFILE, ND, L);
       if (data.HasMThetaData()) write_points(stream, "RVSOILDM", data.GetMThetaCurve(ND, L), PROFILE, ND, L);

@@ -25,11 +25,11 @@ void PRINT(common& cmn, fem::text_ref version, fem::text_ref date, const time_ar
   print_summary(cmn, head);
   if (cmn.JPRINT < 2) return;
 
-  for (int ND = 1; ND <= cmn.NUMDIA; ++ND)
-    for (int L = 1; L <= cmn.NUMLAY; ++L) print_curve_page(cmn, head, ND, L);
+  for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND)
+    for (layer_number L(1); L <= cmn.NUMLAY; ++L) print_curve_page(cmn, head, ND, L);
   if (cmn.MONOPILE) {
-    for (int ND = 1; ND <= cmn.NUMDIA; ++ND)
-      for (int L = 1; L <= cmn.NUMLAY; ++L) print_monopile_page(cmn, head, ND, L);
+    for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND)
+      for (layer_number L(1); L <= cmn.NUMLAY; ++L) print_monopile_page(cmn, head, ND, L);
   }
   if (cmn.NUMDSP > 0) print_displacement_page(cmn, head);
 }

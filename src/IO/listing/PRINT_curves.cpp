@@ -7,7 +7,7 @@ namespace tervak {
 namespace {
 
 /// A layer with a friction angle counts as sand, any other as clay.
-void print_soil_line(common& cmn, int L) {
+void print_soil_line(common& cmn, layer_number L) {
   const char* load = method_label(cmn.ZCYCL > cmn.ZLAY(L) ? 13 : 12);
   if (cmn.PHIR(L) > cmn.EPS) {
     fem::write(cmn.units, cmn.NFLIS,
@@ -22,7 +22,7 @@ void print_soil_line(common& cmn, int L) {
 
 }  // namespace
 
-void print_curve_page(common& cmn, const page_head& head, int ND, int L) {
+void print_curve_page(common& cmn, const page_head& head, diameter_number ND, layer_number L) {
   print_page_head(cmn, head);
   fem::write(
       cmn.units, cmn.NFLIS,

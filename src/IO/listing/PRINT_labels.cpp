@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstddef>
-#include <span>
+
+#include "SoilCurves/axial/axial_methods.hpp"
+#include "SoilCurves/py/py_methods.hpp"
 
 namespace tervak {
 
@@ -12,19 +14,8 @@ constexpr std::array<const char*, 18> LABELS = {"API-84", "API-87", "VRK-80", "M
                                                 "AUTO-2", "AUTO-3", "KRAFT ", "ELAPLA", "????? ", "STATIC",
                                                 "CYCLIC", "API-93", "ISO-04", "NGI-11", "ModMat", "API-2014"};
 
-struct label_row {
-  int code;
-  int index;
-};
-
-constexpr label_row PY_ROWS[] = {{284, 1},  {287, 2},  {214, 18}, {380, 3},
-                                 {404, 15}, {570, 17}, {588, 11}, {600, 16}};
-constexpr label_row TZ_ROWS[] = {{200, 9}, {214, 18}, {293, 14}, {588, 11}};
-constexpr label_row QZ_ROWS[] = {{200, 10}, {293, 14}, {214, 18}};
-
-const char* label_of(std::span<const label_row> rows, int code) {
-  for (const label_row& row : rows)
-    if (row.code == code) return method_label(row.index);
+const char* label_of(curve_methods methods, int code) {
+  if (const curve_method* method = find_method(methods, code)) return method->label;
   return method_label(code < 100 ? 4 : code - 95);
 }
 
@@ -32,8 +23,8 @@ const char* label_of(std::span<const label_row> rows, int code) {
 
 const char* method_label(int index) { return LABELS.at(static_cast<std::size_t>(index) - 1); }
 
-const char* PY_label(int code) { return label_of(PY_ROWS, code); }
-const char* TZ_label(int code) { return label_of(TZ_ROWS, code); }
-const char* QZ_label(int code) { return label_of(QZ_ROWS, code); }
+const char* PY_label(int code) { return label_of(py_methods(), code); }
+const char* TZ_label(int code) { return label_of(tz_methods(), code); }
+const char* QZ_label(int code) { return label_of(qz_methods(), code); }
 
 }  // namespace tervak

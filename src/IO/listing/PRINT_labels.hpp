@@ -5,9 +5,9 @@ namespace tervak {
 /// The label of a method by its index from 1 to 18; any other index throws std::out_of_range.
 const char* method_label(int index);
 
-/// Labels of the curve codes. A code without a row of its own is "MANUAL" below 100 and has index code - 95
-/// from 100 on, which has a meaning for 100 (LINEAR) to 103 (AUTO-3) and throws std::out_of_range above 113:
-/// the checks of the input keep such codes out.
+/// Labels of the curve codes, from the tables of methods. A code without a row is "MANUAL" below 100 and has
+/// index code - 95 from 100 on, which throws std::out_of_range above 113: the checks of the input keep such
+/// codes out.
 const char* PY_label(int code);
 const char* TZ_label(int code);
 const char* QZ_label(int code);

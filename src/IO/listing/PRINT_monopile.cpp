@@ -10,14 +10,15 @@ namespace {
 
 using curve = Varno::KestraCommonLibrary::CommonData::MonoPileCurve;  // displacement first, force second
 
-void print_heading(common& cmn, const char* heading, const char* columns, int ND, int L) {
+void print_heading(common& cmn, const char* heading, const char* columns, diameter_number ND,
+                   layer_number L) {
   fem::write(cmn.units, cmn.NFLIS, heading, cmn.LABEL, L, cmn.DEPTH(L), cmn.DIAM(ND), cmn.ZBOTM(L));
   fem::write(cmn.units, cmn.NFLIS, "(A)", columns);
   print_blank_line(cmn);
 }
 
-void print_one_kind(common& cmn, const char* heading, const char* columns, const curve& points, int ND,
-                    int L) {
+void print_one_kind(common& cmn, const char* heading, const char* columns, const curve& points,
+                    diameter_number ND, layer_number L) {
   print_heading(cmn, heading, columns, ND, L);
   int N = 0;
   for (const auto& [displacement, force] : points) {
@@ -27,8 +28,8 @@ void print_one_kind(common& cmn, const char* heading, const char* columns, const
   }
 }
 
-void print_all_kinds(common& cmn, const curve& mtheta, const curve& bsy, const curve& bmtheta, int ND,
-                     int L) {
+void print_all_kinds(common& cmn, const curve& mtheta, const curve& bsy, const curve& bmtheta,
+                     diameter_number ND, layer_number L) {
   print_heading(
       cmn,
       "(/,1x,a80,/,/,' COMPLETE M-THETA / BS-Y / BM-THETA RESULTS',4x,'LAYER :',i3,'  DEPTH :',f8.2,'  DIAM :',f7.3,/,1x,42('*'),16x,'ZBOTM :',f8.2)",
@@ -46,7 +47,7 @@ void print_all_kinds(common& cmn, const curve& mtheta, const curve& bsy, const c
 
 }  // namespace
 
-void print_monopile_page(common& cmn, const page_head& head, int ND, int L) {
+void print_monopile_page(common& cmn, const page_head& head, diameter_number ND, layer_number L) {
   print_page_head(cmn, head);
   const auto& data = *cmn.MONOPILE;
   if (data.HasMThetaData() && data.HasBMThetaData() && data.HasBSYData()) {

@@ -24,11 +24,11 @@ void print_gap_around_origin(common& cmn, int P);
 void print_summary(common& cmn, const page_head& head);
 
 /// All MAXPNT points of the three curves of diameter ND and layer L, used or not.
-void print_curve_page(common& cmn, const page_head& head, int ND, int L);
+void print_curve_page(common& cmn, const page_head& head, diameter_number ND, layer_number L);
 
 /// The monopile curves of diameter ND and layer L: one table when all three kinds exist, else a table a kind.
 /// MONOPILE must not be null. The page head stands even when no table follows it.
-void print_monopile_page(common& cmn, const page_head& head, int ND, int L);
+void print_monopile_page(common& cmn, const page_head& head, diameter_number ND, layer_number L);
 
 /// The given soil displacements and open hole diameters. The profile's label is left blank on this page.
 void print_displacement_page(common& cmn, const page_head& head);

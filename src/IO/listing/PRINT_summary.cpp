@@ -10,7 +10,7 @@ void print_summary(common& cmn, const page_head& head) {
       cmn.units, cmn.NFLIS,
       "(' LAY TYP   ZBOTM    ZLAY   DEPTH GAMEFF   PHIR   SURED','     SIGZRES   DSIGZ   PY  TZ  QZ')");
   print_blank_line(cmn);
-  for (int L = 1; L <= cmn.NUMLAY; ++L) {
+  for (layer_number L(1); L <= cmn.NUMLAY; ++L) {
     const layer_code& code = cmn.LAYCOD(L);
     fem::write(cmn.units, cmn.NFLIS, "(i3,i4,f8.2,f8.2,f8.2,f9.2,f6.1,f9.1,f11.1,f8.2,1x,3i4.3)", L, code.TYP,
                cmn.ZBOTM(L), cmn.ZLAY(L), cmn.DEPTH(L), cmn.GAMEFF(L), cmn.PHIR(L), cmn.SURED(L),

@@ -11,7 +11,7 @@ namespace {
 const double PI = sp(3.14159f);
 
 std::vector<usfos_point> curve_points(const common& cmn, double factor, const curve_table& STR,
-                                      const curve_table& DSP, int K, int LAY) {
+                                      const curve_table& DSP, diameter_number K, layer_number LAY) {
   std::vector<usfos_point> points;
   points.reserve(static_cast<std::size_t>(cmn.MAXPNT));
   for (int P = 1; P <= cmn.MAXPNT; ++P) points.push_back({factor * STR(P, K, LAY), DSP(P, K, LAY)});
@@ -20,7 +20,7 @@ std::vector<usfos_point> curve_points(const common& cmn, double factor, const cu
 
 /// Appends the three materials of a layer and returns their numbers. The stresses act on the pile's diameter,
 /// its circumference and its tip area.
-usfos_layer layer_materials(const common& cmn, double D, int K, int LAY,
+usfos_layer layer_materials(const common& cmn, double D, diameter_number K, layer_number LAY,
                             std::vector<usfos_material>& materials) {
   const std::array<std::vector<usfos_point>, 3> curves = {
       curve_points(cmn, D, cmn.PYSTR, cmn.PYDSP, K, LAY),
@@ -39,10 +39,11 @@ usfos_layer layer_materials(const common& cmn, double D, int K, int LAY,
 
 void G2USFOS(common& cmn, const vector1<double>& DIAM, double F, double L, int MODE, int UNIT, int& IERR) {
   std::vector<usfos_material> materials;
-  for (int K = 1; K <= cmn.NUMDIA; ++K) {
+  for (diameter_number K(1); K <= cmn.NUMDIA; ++K) {
     const double D = DIAM(K);
     std::vector<usfos_layer> layers;
-    for (int LAY = 1; LAY <= cmn.NUMLAY; ++LAY) layers.push_back(layer_materials(cmn, D, K, LAY, materials));
+    for (layer_number LAY(1); LAY <= cmn.NUMLAY; ++LAY)
+      layers.push_back(layer_materials(cmn, D, K, LAY, materials));
     usfos_write_soilchar(cmn, UNIT, D, F, L, layers);
   }
   int error = 0;

@@ -29,7 +29,7 @@ int usfos_soil_number(double D);
 
 /// (M * 100 + L) * 10 + T of layer L and curve kind T (1 P-Y, 2 T-Z, 3 Q-Z), M being the diameter rounded to
 /// whole length units, or to thousandths when that is below 100: another limit than that of the soil number.
-int usfos_material_number(double D, int L, int T);
+int usfos_material_number(double D, layer_number L, int T);
 
 /// The corner points of a curve. The first point stays; a later one is dropped when its force and its
 /// displacement both agree within one per cent with those of the point kept last. Then the far ends are drawn
@@ -38,7 +38,7 @@ std::vector<usfos_point> usfos_thin(const std::vector<usfos_point>& curve);
 
 /// The material of curve `curve`, kind T, of layer L and diameter D. Forces whose squares sum to less than
 /// 0.1 make an empty one.
-usfos_material usfos_make_material(const std::vector<usfos_point>& curve, double D, int L, int T);
+usfos_material usfos_make_material(const std::vector<usfos_point>& curve, double D, layer_number L, int T);
 
 /// The SOILCHAR block of the diameter D: soil number, sea floor and factors, then the layers with their
 /// materials.

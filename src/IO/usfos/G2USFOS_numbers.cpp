@@ -15,20 +15,20 @@ int checked(double number) {
 }
 
 /// The diameter in whole length units, or in thousandths when that is below `limit`.
-double diameter_number(double D, double limit) {
+double number_of_diameter(double D, double limit) {
   const double whole = std::floor(D + 0.5);
   return whole < limit ? std::floor(D * 1000 + 0.5) : whole;
 }
 
 }  // namespace
 
-int usfos_soil_number(double D) { return checked(diameter_number(D, 5)); }
+int usfos_soil_number(double D) { return checked(number_of_diameter(D, 5)); }
 
-int usfos_material_number(double D, int L, int T) {
-  return checked((diameter_number(D, 100) * 100 + L) * 10 + T);
+int usfos_material_number(double D, layer_number L, int T) {
+  return checked((number_of_diameter(D, 100) * 100 + L) * 10 + T);
 }
 
-usfos_material usfos_make_material(const std::vector<usfos_point>& curve, double D, int L, int T) {
+usfos_material usfos_make_material(const std::vector<usfos_point>& curve, double D, layer_number L, int T) {
   double squares = 0.0;
   for (const usfos_point& point : curve) squares += point.F * point.F;
   if (squares < 0.1) return {};

@@ -9,7 +9,7 @@
 
 namespace tervak {
 
-void QZAUTO(common& cmn, int NL, int ND, int ICODE) {
+void QZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   double Q = 0, R = 0;
   const int IERR = depth_values(cmn, NL, ND, {{depth_column::SIGTIP, Q}, {depth_column::QZDRAT, R}});
   if (IERR != 0)

@@ -4,7 +4,7 @@
 
 namespace tervak {
 
-void QZMAN(common& cmn, int NL, int ND) {
+void QZMAN(common& cmn, layer_number NL, diameter_number ND) {
   lay_manual_curve(
       cmn, qz_curves(cmn), NL, ND, cmn.SFSIGT,
       {"(/,' **** SR/QZMAN : GIVEN MANUAL Q-Z CURVE DOES NOT',' PASS ORIGIN',/,' LAYER,NDIAM =',2i5)",

@@ -18,11 +18,11 @@ struct tip_values {
   double NU = 0;
 };
 
-void lay_symmetric(common& cmn, int NL, int ND, const curve_side& side) {
+void lay_symmetric(common& cmn, layer_number NL, diameter_number ND, const curve_side& side) {
   lay_curve(qz_curves(cmn), NL, ND, side, side);
 }
 
-void api_curve(common& cmn, int NL, int ND, double QM) {
+void api_curve(common& cmn, layer_number NL, diameter_number ND, double QM) {
   static constexpr curve_point SHAPE[] = {
       {0.25, sp(0.002f)}, {0.5, sp(0.013f)}, {0.75, sp(0.042f)}, {sp(0.9f), sp(0.073f)}, {1.0, sp(0.1f)}};
   curve_side side = scaled_side(SHAPE, QM, cmn.DIAM(ND));
@@ -30,7 +30,7 @@ void api_curve(common& cmn, int NL, int ND, double QM) {
   lay_symmetric(cmn, NL, ND, side);
 }
 
-void elastic_curve(common& cmn, int NL, int ND, const tip_values& tip, double QM) {
+void elastic_curve(common& cmn, layer_number NL, diameter_number ND, const tip_values& tip, double QM) {
   const double D = cmn.DIAM(ND);
   const double ESOIL = 2.0 * (1.0 + tip.NU) * tip.G;
   double DSPELAST = (1.0 - tip.NU * tip.NU) * sp(0.6f) * D / ESOIL * QM;
@@ -55,7 +55,7 @@ void elastic_curve(common& cmn, int NL, int ND, const tip_values& tip, double QM
 
 }  // namespace
 
-void QZMISC(common& cmn, int NL, int ND, int ICODE) {
+void QZMISC(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   tip_values tip;
   const int IERR = depth_values(cmn, NL, ND,
                                 {{depth_column::SIGTIP, tip.Q},

@@ -15,6 +15,6 @@ namespace tervak {
 /// All codes but 293 and 214: a revision 5 layer without a shear modulus gets 5 points of zero stress, and a
 /// bad G or Poisson's ratio is told before a bad ICODE. IERR 1: the depth table, G or Poisson's ratio, or
 /// ICODE.
-void QZMISC(common& cmn, int NL, int ND, int ICODE);
+void QZMISC(common& cmn, layer_number NL, diameter_number ND, int ICODE);
 
 }  // namespace tervak

@@ -9,7 +9,7 @@
 
 namespace tervak {
 
-void TZAUTO(common& cmn, int NL, int ND, int ICODE) {
+void TZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   double TC = 0, TT = 0, R = 0;
   const int IERR = depth_values(
       cmn, NL, ND, {{depth_column::TCMP, TC}, {depth_column::TTNS, TT}, {depth_column::TZDRAT, R}});

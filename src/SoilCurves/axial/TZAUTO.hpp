@@ -12,6 +12,6 @@ namespace tervak {
 /// In revision 5 the friction is that of the layer; the displacements stay those of the depth table.
 /// A residual ratio of 0 means 1, a residual displacement of 0 means 1 % of the diameter.
 /// IERR 1: the depth table.
-void TZAUTO(common& cmn, int NL, int ND, int ICODE);
+void TZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE);
 
 }  // namespace tervak

@@ -4,7 +4,7 @@
 
 namespace tervak {
 
-void TZMAN(common& cmn, int NL, int ND) {
+void TZMAN(common& cmn, layer_number NL, diameter_number ND) {
   lay_manual_curve(
       cmn, tz_curves(cmn), NL, ND, cmn.SFSKF,
       {"(/,' **** SR/TZMAN : GIVEN MANUAL T-Z CURVE DOES NOT',' PASS ORIGIN',/,' LAYER,NDIAM =',2i5)",

@@ -20,17 +20,17 @@ struct skin_friction {
 };
 
 template <class Side>
-void lay_sides(common& cmn, int NL, int ND, const skin_friction& skin, Side side) {
+void lay_sides(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin, Side side) {
   lay_curve(tz_curves(cmn), NL, ND, side(skin.TMC), side(skin.TMT));
 }
 
-void zero_curve(common& cmn, int NL, int ND) {
+void zero_curve(common& cmn, layer_number NL, diameter_number ND) {
   const double Z1 = cmn.DIAM(ND) * sp(0.01f);
   const curve_side side = {{0.0, Z1}, {0.0, Z1 + cmn.BIGDSP}};
   lay_curve(tz_curves(cmn), NL, ND, side, side);
 }
 
-void hyperbola(common& cmn, int NL, int ND, const skin_friction& skin) {
+void hyperbola(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   static constexpr double RATIOS[] = {sp(0.33f), sp(0.6f), sp(0.8f), sp(0.9f), sp(0.96f), sp(0.9999f)};
   const int t = cmn.LAYCOD(NL).TYP;
   const double D = cmn.DIAM(ND);
@@ -64,7 +64,7 @@ curve_side api_clay_rise(double TM, double D) {
   return scaled_side(SHAPE, TM, D);
 }
 
-void api_clay(common& cmn, int NL, int ND, const skin_friction& skin) {
+void api_clay(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const int t = cmn.LAYCOD(NL).TYP;
   const double D = cmn.DIAM(ND);
   const double FR = std::min(cmn.EPS > cmn.TRESMX(t) ? sp(0.8f) : cmn.TRESMX(t), 1.0);
@@ -79,7 +79,7 @@ void api_clay(common& cmn, int NL, int ND, const skin_friction& skin) {
 
 /// Sand in the shape of the clay: no drop behind the peak, and the residual displacement only in the far
 /// point.
-void api_sand_214(common& cmn, int NL, int ND, const skin_friction& skin) {
+void api_sand_214(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const double D = cmn.DIAM(ND);
   const double ZR = cmn.TZZRES(cmn.LAYCOD(NL).TYP);
   lay_sides(cmn, NL, ND, skin, [&](double TM) {
@@ -91,26 +91,26 @@ void api_sand_214(common& cmn, int NL, int ND, const skin_friction& skin) {
 }
 
 /// Full friction at 2.54 mm. The ratio of atmosphere and water weight is about 10.13 m in any unit of length.
-void api_sand_293(common& cmn, int NL, int ND, const skin_friction& skin) {
+void api_sand_293(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const double ZE = cmn.ATMPRS / cmn.GAMWAT * sp(0.0002507f);
   lay_sides(cmn, NL, ND, skin, [&](double TM) { return curve_side{{TM, ZE}, {TM, ZE + cmn.BIGDSP}}; });
 }
 
-void carbonate_sand(common& cmn, int NL, int ND, const skin_friction& skin) {
+void carbonate_sand(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const double Z1 = cmn.DIAM(ND) * sp(0.01f);
   lay_sides(cmn, NL, ND, skin, [&](double TM) {
     return curve_side{{TM, Z1}, {0.75 * TM, 10.0 * Z1}, {0.75 * TM, 10.0 * Z1 + cmn.BIGDSP}};
   });
 }
 
-bool is_clay(const common& cmn, int NL) {
+bool is_clay(const common& cmn, layer_number NL) {
   const double FI = cmn.REVISION == 5 ? cmn.PHIR(NL) : cmn.PHI(cmn.LAYCOD(NL).TYP);
   return cmn.EPS > FI;
 }
 
 }  // namespace
 
-void TZMISC(common& cmn, int NL, int ND, int ICODE) {
+void TZMISC(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   double TC = 0, TT = 0, G = 0;
   const int IERR = depth_values(
       cmn, NL, ND, {{depth_column::TCMP, TC}, {depth_column::TTNS, TT}, {depth_column::G0SOIL, G}});

@@ -18,6 +18,6 @@ namespace tervak {
 /// ICODE. In code 200 a side whose full friction is zero or not below G gets displacements in steps of one
 /// diameter. A residual ratio TRESMX of 0 means 1 in code 200 and 0.8 in codes 293 and 214, where it is also
 /// capped at 1. IERR 1: the depth table, the shear modulus of code 200, or ICODE.
-void TZMISC(common& cmn, int NL, int ND, int ICODE);
+void TZMISC(common& cmn, layer_number NL, diameter_number ND, int ICODE);
 
 }  // namespace tervak

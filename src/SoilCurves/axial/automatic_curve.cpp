@@ -22,8 +22,9 @@ curve_side automatic_side(int ICODE, double BIGDSP, const automatic_values& valu
 
 }  // namespace
 
-void lay_automatic_curve(const curve_family& family, int NL, int ND, int ICODE, double BIGDSP,
-                         const automatic_values& compression, const automatic_values& tension) {
+void lay_automatic_curve(const curve_family& family, layer_number NL, diameter_number ND, int ICODE,
+                         double BIGDSP, const automatic_values& compression,
+                         const automatic_values& tension) {
   if (ICODE < 100 || ICODE > 103) return;
   const automatic_values& lower = ICODE == 100 ? compression : tension;
   lay_curve(family, NL, ND, automatic_side(ICODE, BIGDSP, compression), automatic_side(ICODE, BIGDSP, lower));

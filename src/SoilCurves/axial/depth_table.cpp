@@ -30,12 +30,13 @@ const vector1<double>& column_of(const common& cmn, depth_column column) {
 
 }  // namespace
 
-int depth_values(common& cmn, int NL, int ND, std::initializer_list<depth_request> requests) {
+int depth_values(common& cmn, layer_number NL, diameter_number ND,
+                 std::initializer_list<depth_request> requests) {
   for (const depth_request& request : requests) {
     depth_lookup& kept = cmn.DEPTHLOOKUPS.at(static_cast<std::size_t>(request.column));
     if (ND == 1 || kept.NL != NL) {
       int IERR = 0;
-      kept.NL = 0;
+      kept.NL = layer_number();
       KestraCommonLibrary::Utils::Interpolate(cmn.NUMTQZ, 1, cmn.ZTQZ, column_of(cmn, request.column),
                                               cmn.ZLAY(NL), kept.YI, IERR);
       if (IERR != 0) return IERR;

@@ -21,6 +21,7 @@ struct depth_request {
 /// The result depends on the layer only. The first diameter of a layer walks the table, the further ones get
 /// the kept values: the walk over 10,000 rows for 50 diameters would otherwise be the cost of the run. A
 /// table that changes between two diameters of one layer goes unnoticed.
-[[nodiscard]] int depth_values(common& cmn, int NL, int ND, std::initializer_list<depth_request> requests);
+[[nodiscard]] int depth_values(common& cmn, layer_number NL, diameter_number ND,
+                               std::initializer_list<depth_request> requests);
 
 }  // namespace tervak

@@ -12,7 +12,7 @@ namespace tervak {
 namespace {
 
 /// The first given point at the origin, 0 if there is none.
-int find_origin(const common& cmn, const curve_family& family, int NL, int ND) {
+int find_origin(const common& cmn, const curve_family& family, layer_number NL, diameter_number ND) {
   for (int k = 1; k <= family.NPNT(ND, NL); ++k)
     if (!(std::abs(family.DSP(k, ND, NL)) > cmn.EPS) && !(std::abs(family.STR(k, ND, NL)) > cmn.EPS))
       return k;
@@ -20,7 +20,7 @@ int find_origin(const common& cmn, const curve_family& family, int NL, int ND) {
 }
 
 /// Takes the given points out of the store, so that they can be laid anew.
-vector1<curve_point> take_points(const curve_family& family, int NL, int ND, double SF) {
+vector1<curve_point> take_points(const curve_family& family, layer_number NL, diameter_number ND, double SF) {
   vector1<curve_point> given;
   for (int k = 1; k <= family.NPNT(ND, NL); ++k) {
     given.append({family.STR(k, ND, NL) / SF, family.DSP(k, ND, NL)});
@@ -32,7 +32,7 @@ vector1<curve_point> take_points(const curve_family& family, int NL, int ND, dou
 
 }  // namespace
 
-void lay_manual_curve(common& cmn, const curve_family& family, int NL, int ND, double SF,
+void lay_manual_curve(common& cmn, const curve_family& family, layer_number NL, diameter_number ND, double SF,
                       const manual_curve_texts& texts) {
   const int N = family.NPNT(ND, NL);
   const int O = family.NORG(ND, NL);

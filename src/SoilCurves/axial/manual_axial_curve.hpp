@@ -16,7 +16,7 @@ struct manual_curve_texts {
 /// A curve that starts at its origin is mirrored. Any other is laid as it stands, and the side with fewer
 /// points is filled up in steps of one diameter with the stress of its last given point. A side has room for
 /// NORG - 1 points. IERR 1: no point at the origin (within EPS), or too many points on a side.
-void lay_manual_curve(common& cmn, const curve_family& family, int NL, int ND, double SF,
+void lay_manual_curve(common& cmn, const curve_family& family, layer_number NL, diameter_number ND, double SF,
                       const manual_curve_texts& texts);
 
 }  // namespace tervak

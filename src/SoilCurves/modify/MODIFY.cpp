@@ -9,12 +9,12 @@ namespace tervak {
 
 namespace {
 
-void remove_stress(common& cmn, int ND, int NL) {
+void remove_stress(common& cmn, diameter_number ND, layer_number NL) {
   for (curve_table* stress : {&cmn.PYSTR, &cmn.TZSTR, &cmn.QZSTR})
     for (int I = 1; I <= cmn.MAXPNT; ++I) (*stress)(I, ND, NL) = 0.0;
 }
 
-void fill_out(const curve_family& family, int ND, int NL, int MAXPNT) {
+void fill_out(const curve_family& family, diameter_number ND, layer_number NL, int MAXPNT) {
   const int O = family.NORG(ND, NL);
   const int H = family.NPNT(ND, NL) / 2;
   const int F = O - H - 1;
@@ -30,7 +30,8 @@ void fill_out(const curve_family& family, int ND, int NL, int MAXPNT) {
   family.NPNT(ND, NL) = MAXPNT;
 }
 
-bool rises(common& cmn, const curve_family& family, int ND, int NL, const char* sequence_error) {
+bool rises(common& cmn, const curve_family& family, diameter_number ND, layer_number NL,
+           const char* sequence_error) {
   const int N = family.NPNT(ND, NL);
   const int B = family.NORG(ND, NL) - N / 2;
   const int E = B - 1 + N;
@@ -45,7 +46,7 @@ bool rises(common& cmn, const curve_family& family, int ND, int NL, const char* 
   return true;
 }
 
-bool modify_curves(common& cmn, int ND, int NL, bool live) {
+bool modify_curves(common& cmn, diameter_number ND, layer_number NL, bool live) {
   const curve_family py = py_curves(cmn), tz = tz_curves(cmn), qz = qz_curves(cmn);
   if (live) {
     if (!apply_py_factors(cmn, ND, NL)) return false;
@@ -70,8 +71,8 @@ bool modify_curves(common& cmn, int ND, int NL, bool live) {
 
 void MODIFY(common& cmn) {
   const int IFIRST = first_live_layer(cmn);
-  for (int ND = 1; ND <= cmn.NUMDIA; ++ND)
-    for (int NL = 1; NL <= cmn.NUMLAY; ++NL)
+  for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND)
+    for (layer_number NL(1); NL <= cmn.NUMLAY; ++NL)
       if (!modify_curves(cmn, ND, NL, NL >= IFIRST)) return;
 }
 

@@ -9,7 +9,8 @@ namespace tervak {
 namespace {
 
 /// The two outermost points of each side.
-void scale_far_points(const curve_family& family, int ND, int NL, double FEND, double DEND) {
+void scale_far_points(const curve_family& family, diameter_number ND, layer_number NL, double FEND,
+                      double DEND) {
   const int O = family.NORG(ND, NL);
   const int H = family.NPNT(ND, NL) / 2;
   for (const int I : {O + H - 1, O + H, O - H + 1, O - H}) {
@@ -19,7 +20,7 @@ void scale_far_points(const curve_family& family, int ND, int NL, double FEND, d
 }
 
 /// Moves each branch one slot outward and by the gap: a stretch of no resistance opens about the origin.
-bool open_gap(common& cmn, int ND, int NL, double PYGAP) {
+bool open_gap(common& cmn, diameter_number ND, layer_number NL, double PYGAP) {
   const int O = cmn.NPYORG(ND, NL);
   const int H = cmn.NPYPNT(ND, NL) / 2;
   cmn.NPYPNT(ND, NL) += 2;
@@ -43,7 +44,7 @@ bool open_gap(common& cmn, int ND, int NL, double PYGAP) {
   return true;
 }
 
-void limit_stress(common& cmn, int ND, int NL, double PYFEND) {
+void limit_stress(common& cmn, diameter_number ND, layer_number NL, double PYFEND) {
   double PMAX = 0.0;
   for (int I = 1; I <= cmn.MAXPNT; ++I) PMAX = std::max(PMAX, cmn.PYSTR(I, ND, NL));
   const double PLIM = PMAX * PYFEND;
@@ -58,7 +59,7 @@ void limit_stress(common& cmn, int ND, int NL, double PYFEND) {
 
 }  // namespace
 
-bool apply_py_factors(common& cmn, int ND, int NL) {
+bool apply_py_factors(common& cmn, diameter_number ND, layer_number NL) {
   const auto [PYFSTR, PYFDSP, PYGAP, PYLIMS, PYFEND, PYDEND] = cmn.PYMOD(ND, NL);
   for (int I = 1; I <= cmn.MAXPNT; ++I) {
     cmn.PYSTR(I, ND, NL) = PYFSTR * cmn.PYSTR(I, ND, NL);
@@ -70,7 +71,7 @@ bool apply_py_factors(common& cmn, int ND, int NL) {
   return true;
 }
 
-void apply_axial_factors(const curve_family& family, int ND, int NL, int MAXPNT,
+void apply_axial_factors(const curve_family& family, diameter_number ND, layer_number NL, int MAXPNT,
                          const std::array<double, 5>& factors) {
   const auto [FPOS, FNEG, FDSP, FEND, DEND] = factors;
   for (int I = 1; I <= MAXPNT; ++I) {

@@ -3,6 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include "Control/state/layer_number.hpp"
+
 namespace Varno::KestraCommonLibrary::CommonData {
 
 /// The 29 points of a symmetric curve, origin in the middle: displacement or rotation first, force or moment
@@ -17,13 +19,16 @@ class IMonoPileDataProvider {
   virtual ~IMonoPileDataProvider() = default;
   /// Distributed moment against rotation along the shaft.
   [[nodiscard]] virtual bool HasMThetaData() const = 0;
-  [[nodiscard]] virtual MonoPileCurve GetMThetaCurve(int ND, int NL) const = 0;
+  [[nodiscard]] virtual MonoPileCurve GetMThetaCurve(tervak::diameter_number ND,
+                                                     tervak::layer_number NL) const = 0;
   /// Moment against rotation at the base.
   [[nodiscard]] virtual bool HasBMThetaData() const = 0;
-  [[nodiscard]] virtual MonoPileCurve GetBMThetaCurve(int ND, int NL) const = 0;
+  [[nodiscard]] virtual MonoPileCurve GetBMThetaCurve(tervak::diameter_number ND,
+                                                      tervak::layer_number NL) const = 0;
   /// Shear force against displacement at the base.
   [[nodiscard]] virtual bool HasBSYData() const = 0;
-  [[nodiscard]] virtual MonoPileCurve GetBSYCurve(int ND, int NL) const = 0;
+  [[nodiscard]] virtual MonoPileCurve GetBSYCurve(tervak::diameter_number ND,
+                                                  tervak::layer_number NL) const = 0;
 };
 
 }  // namespace Varno::KestraCommonLibrary::CommonData

@@ -50,15 +50,16 @@ MonoPileDataBuilder::Table MonoPileDataBuilder::Build(const MonoPileInputDataPro
                                                       int IFIRST) const {
   const double FAR = DIAM_(DIAM_.size()) * 1000.0;
   Table table;
-  for (int ND = 1; ND <= DIAM_.size(); ++ND) {
+  for (tervak::diameter_number ND(1); ND <= DIAM_.size(); ++ND) {
     table.emplace_back();
-    for (int NL = 1; NL <= NUMLAY_; ++NL)
+    for (tervak::layer_number NL(1); NL <= NUMLAY_; ++NL)
       table.back().push_back(LayOut(input.GetCurve(NL, DIAM_(ND)), NL >= IFIRST, FAR));
   }
   return table;
 }
 
-MonoPileCurve MonoPileDataBuilder::Get(const Table& table, int ND, int NL) {
+MonoPileCurve MonoPileDataBuilder::Get(const Table& table, tervak::diameter_number ND,
+                                       tervak::layer_number NL) {
   // An index of 0 wraps round to a value beyond any table.
   const std::size_t diameter = static_cast<std::size_t>(ND) - 1;
   const std::size_t layer = static_cast<std::size_t>(NL) - 1;

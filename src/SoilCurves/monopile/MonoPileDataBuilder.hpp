@@ -29,18 +29,26 @@ class MonoPileDataBuilder final : public KestraCommonLibrary::CommonData::IMonoP
                   const Vrsk::Plin::TervakExchange::MonopileModificationSection& modification, int IFIRST);
 
   [[nodiscard]] bool HasMThetaData() const override { return !m_theta_.empty(); }
-  [[nodiscard]] MonoPileCurve GetMThetaCurve(int ND, int NL) const override { return Get(m_theta_, ND, NL); }
+  [[nodiscard]] MonoPileCurve GetMThetaCurve(tervak::diameter_number ND,
+                                             tervak::layer_number NL) const override {
+    return Get(m_theta_, ND, NL);
+  }
   [[nodiscard]] bool HasBMThetaData() const override { return !bm_theta_.empty(); }
-  [[nodiscard]] MonoPileCurve GetBMThetaCurve(int ND, int NL) const override {
+  [[nodiscard]] MonoPileCurve GetBMThetaCurve(tervak::diameter_number ND,
+                                              tervak::layer_number NL) const override {
     return Get(bm_theta_, ND, NL);
   }
   [[nodiscard]] bool HasBSYData() const override { return !bs_y_.empty(); }
-  [[nodiscard]] MonoPileCurve GetBSYCurve(int ND, int NL) const override { return Get(bs_y_, ND, NL); }
+  [[nodiscard]] MonoPileCurve GetBSYCurve(tervak::diameter_number ND,
+                                          tervak::layer_number NL) const override {
+    return Get(bs_y_, ND, NL);
+  }
 
  private:
   using Table = std::vector<std::vector<MonoPileCurve>>;  ///< by diameter, by layer
 
-  [[nodiscard]] static MonoPileCurve Get(const Table& table, int ND, int NL);
+  [[nodiscard]] static MonoPileCurve Get(const Table& table, tervak::diameter_number ND,
+                                         tervak::layer_number NL);
   [[nodiscard]] Table Build(const MonoPileInputDataProvider& input, int IFIRST) const;
 
   std::shared_ptr<const IO::TervakUnitConverter> converter_;

@@ -5,7 +5,7 @@
 
 namespace Varno::TervakLibrary::SoilCurves {
 
-MonoPileCurve MonoPileInputDataProvider::GetCurve(int NL, double DIAM) const {
+MonoPileCurve MonoPileInputDataProvider::GetCurve(tervak::layer_number NL, double DIAM) const {
   const auto given = curves_.GetManualCurve(NL, DIAM);
   std::pair<double, double> factors = {1.0, 1.0};
   try {

@@ -22,7 +22,7 @@ class MonoPileInputDataProvider {
 
   /// The given points in ascending displacement; empty when the deck has no curve for the pair. DIAM in run
   /// units. A pair that no modification line covers has the factors 1.0.
-  [[nodiscard]] MonoPileCurve GetCurve(int NL, double DIAM) const;
+  [[nodiscard]] MonoPileCurve GetCurve(tervak::layer_number NL, double DIAM) const;
 
  private:
   const MonoPileKind& kind_;

@@ -32,7 +32,7 @@ void sand(common& cmn, const py_layer& layer) {
 
 }  // namespace
 
-void API14(common& cmn, int NL, int ND) {
+void API14(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, ZTOL);
   if (!layer) return;
   if (cmn.PHIR(NL) > ZTOL) return sand(cmn, *layer);

@@ -10,6 +10,6 @@ namespace tervak {
 /// layer above 1.0E-12 (force/length3) is the modulus itself, whatever the friction angle. Soft clay in seven
 /// points, stiff clay as in API84. The zero limit of depth and friction angle is 1.0E-12.
 /// IERR 1 where the ultimate resistance, the stiff clay or the modulus lookup fails.
-void API14(common& cmn, int NL, int ND);
+void API14(common& cmn, layer_number NL, diameter_number ND);
 
 }  // namespace tervak

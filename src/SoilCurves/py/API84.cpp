@@ -34,10 +34,10 @@ bool find_factor(common& cmn, const py_layer& layer, const vector1<double>& row,
   return false;
 }
 
-double parabola_exponent(common& cmn, const py_layer& layer, const py_point& M, const py_point& U) {
-  double DP = U.P - M.P;
+double parabola_exponent(common& cmn, const py_layer& layer, const curve_point& M, const curve_point& U) {
+  double DP = U.stress - M.stress;
   if (std::abs(DP) < cmn.EPS) DP = cmn.EPS;
-  const double EXPN = ((U.Y - M.Y) * M.P / M.Y) / DP;
+  const double EXPN = ((U.displacement - M.displacement) * M.stress / M.displacement) / DP;
   if (!(EXPN < sp(1.01f))) return EXPN;
   remark(
       cmn,
@@ -48,19 +48,19 @@ double parabola_exponent(common& cmn, const py_layer& layer, const py_point& M, 
 
 /// Line of slope K * H / D to (YK, ...), parabola to M, line to U. A line that would meet the parabola behind
 /// M is dropped with the parabola, and the curve goes straight to M.
-void store_sand(common& cmn, const py_layer& layer, double K, const py_point& M, const py_point& U) {
+void store_sand(common& cmn, const py_layer& layer, double K, const curve_point& M, const curve_point& U) {
   const double H = layer.H;
   const double D = layer.D;
   const double EXPN = parabola_exponent(cmn, layer, M, U);
-  const double C = std::pow(M.Y, 1.0 / EXPN);
-  const double YK = std::pow(D * M.P / (H * K * C), EXPN / (EXPN - 1.0));
-  const py_point end{cmn.BIGDSP, U.P};
-  if (YK > M.Y) return store_py(cmn, layer.NL, layer.ND, {M, U, end});
-  const auto parabola = [&](double y) { return py_point{y, std::pow(y, 1.0 / EXPN) * M.P / C}; };
-  const double DY = (M.Y - YK) / 3.0;
+  const double C = std::pow(M.displacement, 1.0 / EXPN);
+  const double YK = std::pow(D * M.stress / (H * K * C), EXPN / (EXPN - 1.0));
+  const curve_point end{U.stress, cmn.BIGDSP};
+  if (YK > M.displacement) return store_py(cmn, layer.NL, layer.ND, {M, U, end});
+  const auto parabola = [&](double y) { return curve_point{std::pow(y, 1.0 / EXPN) * M.stress / C, y}; };
+  const double DY = (M.displacement - YK) / 3.0;
   const double Y2 = YK + DY;
   const double Y3 = Y2 + DY;
-  store_py(cmn, layer.NL, layer.ND, {{YK, (H / D) * K * YK}, parabola(Y2), parabola(Y3), M, U, end});
+  store_py(cmn, layer.NL, layer.ND, {{(H / D) * K * YK, YK}, parabola(Y2), parabola(Y3), M, U, end});
 }
 
 void sand(common& cmn, const py_layer& layer) {
@@ -77,12 +77,12 @@ void sand(common& cmn, const py_layer& layer) {
   K = K * cmn.GAMWAT;
   const double PUU = AFACT * *PU;
   const double PM = PUU * BFACT / AFACT;
-  store_sand(cmn, layer, K, {layer.D / 60.0, PM}, {layer.D * 3.0 / 80.0, PUU});
+  store_sand(cmn, layer, K, {PM, layer.D / 60.0}, {PUU, layer.D * 3.0 / 80.0});
 }
 
 }  // namespace
 
-void API84(common& cmn, int NL, int ND) {
+void API84(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
   if (cmn.PHIR(NL) > cmn.EPS) return sand(cmn, *layer);

@@ -11,6 +11,6 @@ namespace tervak {
 /// first, so a layer with a friction angle and a strength is sand. An exponent of the parabola below 1.01 is
 /// replaced with a warning on the run log, and the run goes on. IERR 1 where the ultimate resistance, the
 /// stiff clay or a lookup fails; the code stands in the message.
-void API84(common& cmn, int NL, int ND);
+void API84(common& cmn, layer_number NL, diameter_number ND);
 
 }  // namespace tervak

@@ -29,10 +29,10 @@ void carbonate_sand_curve(common& cmn, const py_layer& layer) {
   const double S3 = std::pow(cmn.SIGZRES(layer.NL), sp(0.33333334f));
   const double Q3 = std::pow(QC, sp(0.6666667f));
   const double RF = layer.ICYCL == 1 ? load_factor(layer, 1) / load_factor(layer, 0) : 1.0;
-  std::vector<py_point> branch;
+  curve_side branch;
   double Y = D * sp(0.002f);
   for (int i = 1; i <= 10; ++i) {
-    branch.push_back({Y, std::min(QC, 1.5 * S3 * Q3 * RF * std::pow(Y / D, 0.5))});
+    branch.push_back({std::min(QC, 1.5 * S3 * Q3 * RF * std::pow(Y / D, 0.5)), Y});
     Y = Y * 1.75;
   }
   store_py(cmn, layer.NL, layer.ND, branch);
@@ -49,7 +49,7 @@ void sand(common& cmn, const py_layer& layer) {
 
 }  // namespace
 
-void API87(common& cmn, int NL, int ND) {
+void API87(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, ZTOL);
   if (!layer) return;
   if (cmn.PHIR(NL) > ZTOL) return sand(cmn, *layer);

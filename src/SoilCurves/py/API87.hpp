@@ -11,6 +11,6 @@ namespace tervak {
 /// resistance QC = H * APIJ + OCR, the two columns holding its rise with depth and its value at the surface;
 /// that curve ends at about 0.308 diameters, not at BIGDSP. IERR 1 where the ultimate resistance, the stiff
 /// clay or the modulus lookup fails, for code 588 as well.
-void API87(common& cmn, int NL, int ND);
+void API87(common& cmn, layer_number NL, diameter_number ND);
 
 }  // namespace tervak

@@ -35,7 +35,7 @@ void clay(common& cmn, const py_layer& layer) {
 
 }  // namespace
 
-void ISO04(common& cmn, int NL, int ND) {
+void ISO04(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
   if (cmn.PHIR(NL) > cmn.EPS) return sand(cmn, *layer);

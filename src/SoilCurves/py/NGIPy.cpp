@@ -37,8 +37,8 @@ double checked_stiffness_ratio(common& cmn, const py_layer& layer) {
   return G;
 }
 
-std::vector<py_point> static_branch(const common& cmn, double D, double Y0, double G, double PU) {
-  std::vector<py_point> branch;
+curve_side static_branch(const common& cmn, double D, double Y0, double G, double PU) {
+  curve_side branch;
   for (const double Y : {Y0 * sp(0.03f), Y0 * sp(0.1f), Y0 * sp(0.3f), Y0 * sp(0.6f), Y0, 2 * Y0, 3.0 * Y0,
                          8.0 * Y0, cmn.BIGDSP}) {
     const double X = std::sqrt(Y / D) * G * sp(0.01f);
@@ -47,36 +47,35 @@ std::vector<py_point> static_branch(const common& cmn, double D, double Y0, doub
       const double E = std::exp(X + X);
       Q = (E - 1.0) / (E + 1.0);
     }
-    branch.push_back({Y, Q * PU});
+    branch.push_back({Q * PU, Y});
   }
   return branch;
 }
 
 /// The points below 3 Y0 are reduced in proportion to their share of the stress there, the rest in full.
-void reduce_cyclic(const common& cmn, const py_layer& layer, double Y0, double PU,
-                   std::vector<py_point>& branch) {
+void reduce_cyclic(const common& cmn, const py_layer& layer, double Y0, double PU, curve_side& branch) {
   const double GC = cmn.SIGZRES(layer.NL) / layer.H;  // stress from surface loads included
   const double ZR = cyclic_depth(cmn, layer, GC);
   const double PR = std::min(1.0, layer.H / ZR) * PU * sp(0.72f);
-  branch[7] = {15.0 * Y0, PR};
-  branch[8].P = PR;
+  branch[7] = {PR, 15.0 * Y0};
+  branch[8].stress = PR;
   const double C = cmn.PYPARM(layer.TYP)[1];
-  const double PREF = branch[6].P < cmn.EPS ? 1.0 : branch[6].P;
+  const double PREF = branch[6].stress < cmn.EPS ? 1.0 : branch[6].stress;
   for (std::size_t i = 0; i < branch.size(); ++i) {
-    const double Q = i < 6 ? branch[i].P / PREF : 1.0;
-    branch[i].P = branch[i].P / (Q * C + 1.0);
+    const double Q = i < 6 ? branch[i].stress / PREF : 1.0;
+    branch[i].stress = branch[i].stress / (Q * C + 1.0);
   }
 }
 
 }  // namespace
 
-void NGI11(common& cmn, int NL, int ND) {
+void NGI11(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
   const double PU = ultimate(cmn, *layer);
   const double G = checked_stiffness_ratio(cmn, *layer);
   const double Y0 = layer->D * sp(0.025f);
-  std::vector<py_point> branch = static_branch(cmn, layer->D, Y0, G, PU);
+  curve_side branch = static_branch(cmn, layer->D, Y0, G, PU);
   if (layer->ICYCL == 1) reduce_cyclic(cmn, *layer, Y0, PU, branch);
   store_py(cmn, NL, ND, branch);
 }

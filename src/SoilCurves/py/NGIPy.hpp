@@ -9,6 +9,6 @@ namespace tervak {
 /// Y0 = 0.025 diameters. PYPARM of the main layer holds Gmax/Su first and the cyclic reduction second.
 /// Every layer is worked as clay, whatever its friction angle.
 /// A Gmax/Su outside 25 to 2500 prints a message and stops the run: fem::stop_info, IERR stays.
-void NGI11(common& cmn, int NL, int ND);
+void NGI11(common& cmn, layer_number NL, diameter_number ND);
 
 }  // namespace tervak

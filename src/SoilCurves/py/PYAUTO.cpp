@@ -6,21 +6,21 @@
 
 namespace tervak {
 
-void PYAUTO(common& cmn, int NL, int ND, int CODE) {
+void PYAUTO(common& cmn, layer_number NL, diameter_number ND, int CODE) {
   double PU = 0.0;
   PYULT(cmn.PHIR(NL) / 180.0 * cmn.PI, cmn.SURED(NL), cmn.DEPTH(NL), cmn.SIGZRES(NL), cmn.DIAM(ND), PU);
   const double YM = cmn.DIAM(ND) * sp(0.1f);
-  const py_point yield{sp(0.3f) * YM, 0.75 * PU};
-  const py_point peak{YM, PU};
+  const curve_point yield{0.75 * PU, sp(0.3f) * YM};
+  const curve_point peak{PU, YM};
   switch (CODE) {
     case 100:
-      return store_py(cmn, NL, ND, {{1000.0 * YM, 1000.0 * PU}});
+      return store_py(cmn, NL, ND, {{1000.0 * PU, 1000.0 * YM}});
     case 101:
-      return store_py(cmn, NL, ND, {peak, {cmn.BIGDSP, PU}});
+      return store_py(cmn, NL, ND, {peak, {PU, cmn.BIGDSP}});
     case 102:
-      return store_py(cmn, NL, ND, {yield, peak, {cmn.BIGDSP, PU}});
+      return store_py(cmn, NL, ND, {yield, peak, {PU, cmn.BIGDSP}});
     case 103:
-      return store_py(cmn, NL, ND, {yield, peak, {2 * YM, 0.5 * PU}, {cmn.BIGDSP, 0.5 * PU}});
+      return store_py(cmn, NL, ND, {yield, peak, {0.5 * PU, 2 * YM}, {0.5 * PU, cmn.BIGDSP}});
     default:
       return;
   }

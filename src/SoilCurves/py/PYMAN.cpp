@@ -4,7 +4,7 @@
 
 namespace tervak {
 
-void PYMAN(common& cmn, int NL, int ND) {
+void PYMAN(common& cmn, layer_number NL, diameter_number ND) {
   const int N = cmn.NPYPNT(ND, NL);
   const int K = cmn.NPYORG(ND, NL) + N;
   if (K <= cmn.MAXPNT) {

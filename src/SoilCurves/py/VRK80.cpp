@@ -65,25 +65,25 @@ std::optional<shape> clay(common& cmn, const py_layer& layer) {
 void store(common& cmn, const py_layer& layer, const shape& s) {
   const double D = layer.D;
   const double T = 1.0 - s.PU / (s.E * s.A * D);
-  std::vector<py_point> branch;
+  curve_side branch;
   if (!(T < cmn.EPS)) {
     const double PH = s.PU / T;
     const double DY = D * s.A / 6.0;
     double Y = 0.0;
     for (int i = 1; i <= 5; ++i) {
       Y += DY;
-      branch.push_back({Y, Y / (Y / PH + 1.0 / s.E)});
+      branch.push_back({Y / (Y / PH + 1.0 / s.E), Y});
     }
   }
-  branch.push_back({s.A * D, s.PU});
-  branch.push_back({s.B * D, s.RES * s.PU});
-  branch.push_back({cmn.BIGDSP, s.RES * s.PU});
+  branch.push_back({s.PU, s.A * D});
+  branch.push_back({s.RES * s.PU, s.B * D});
+  branch.push_back({s.RES * s.PU, cmn.BIGDSP});
   store_py(cmn, layer.NL, layer.ND, branch);
 }
 
 }  // namespace
 
-void VRK80(common& cmn, int NL, int ND) {
+void VRK80(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
   if (const auto s = cmn.PHIR(NL) > cmn.EPS ? sand(cmn, *layer) : clay(cmn, *layer)) store(cmn, *layer, *s);

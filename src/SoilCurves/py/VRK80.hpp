@@ -8,6 +8,6 @@ namespace tervak {
 /// VRKLAT, for clay a fall to a residual value, then flat. Sand and clay, however stiff, take the same shape.
 /// The overconsolidation ratio of the soil type counts in a revision 4 deck only; without one it is estimated
 /// from the strength ratio. IERR 1 where VRKLAT fails; its code stands alone in the message.
-void VRK80(common& cmn, int NL, int ND);
+void VRK80(common& cmn, layer_number NL, diameter_number ND);
 
 }  // namespace tervak

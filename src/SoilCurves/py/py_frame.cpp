@@ -6,10 +6,10 @@
 
 namespace tervak {
 
-std::optional<py_layer> open_py(common& cmn, int NL, int ND, double ZTOL) {
+std::optional<py_layer> open_py(common& cmn, layer_number NL, diameter_number ND, double ZTOL) {
   const double H = cmn.DEPTH(NL);
   if (!(H > ZTOL)) {
-    store_py(cmn, NL, ND, {{cmn.BIGDSP, 0.0}});
+    store_py(cmn, NL, ND, {{0.0, cmn.BIGDSP}});
     return std::nullopt;
   }
   py_layer layer;

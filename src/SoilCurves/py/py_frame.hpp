@@ -8,8 +8,8 @@ namespace tervak {
 
 /// What every P-Y method knows about the layer and the diameter that it works on. Run units.
 struct py_layer {
-  int NL = 0;
-  int ND = 0;
+  layer_number NL;
+  diameter_number ND;
   int TYP = 0;     ///< index into the soil type table
   int PYCODE = 0;  ///< code of the method
   int ICYCL = 0;   ///< 0 static, 1 cyclic
@@ -30,7 +30,7 @@ struct py_method {
 /// Opens the curve of one layer and one diameter. A layer whose depth is not greater than ZTOL lies at or
 /// above the scoured sea floor: it gets the curve of three points without resistance, and nothing is
 /// returned. Cyclic is a matter of level alone: a layer strictly above ZCYCL is cyclic.
-std::optional<py_layer> open_py(common& cmn, int NL, int ND, double ZTOL);
+std::optional<py_layer> open_py(common& cmn, layer_number NL, diameter_number ND, double ZTOL);
 
 /// Ultimate resistance of the layer by APILAT, as a stress; a strength SU of 0.0 asks for the sand formula.
 /// On failure prints the method's message, sets IERR to 1 and returns nothing.

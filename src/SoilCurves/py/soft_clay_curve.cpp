@@ -20,9 +20,9 @@ double cyclic_resistance(const common& cmn, const py_layer& layer, double PU) {
 }
 
 /// Where the curve turns flat.
-py_point last_corner(const common& cmn, const py_layer& layer, double PU, double YC) {
-  if (layer.ICYCL == 1) return {15.0 * YC, cyclic_resistance(cmn, layer, PU)};
-  return {8.0 * YC, PU};
+curve_point last_corner(const common& cmn, const py_layer& layer, double PU, double YC) {
+  if (layer.ICYCL == 1) return {cyclic_resistance(cmn, layer, PU), 15.0 * YC};
+  return {PU, 8.0 * YC};
 }
 
 }  // namespace
@@ -34,33 +34,33 @@ double cyclic_depth(const common& cmn, const py_layer& layer, double GAM) {
 
 void soft_clay_curve_5(common& cmn, const py_layer& layer, double PU) {
   const double YC = reference_displacement(cmn, layer);
-  const py_point corner = last_corner(cmn, layer, PU, YC);
+  const curve_point corner = last_corner(cmn, layer, PU, YC);
   store_py(cmn, layer.NL, layer.ND,
-           {{YC, 0.5 * PU}, {3.0 * YC, sp(0.72f) * PU}, corner, {cmn.BIGDSP, corner.P}});
+           {{0.5 * PU, YC}, {sp(0.72f) * PU, 3.0 * YC}, corner, {corner.stress, cmn.BIGDSP}});
 }
 
 void soft_clay_curve_7(common& cmn, const py_layer& layer, double PU) {
   const double YC = reference_displacement(cmn, layer);
-  const py_point corner = last_corner(cmn, layer, PU, YC);
+  const curve_point corner = last_corner(cmn, layer, PU, YC);
   store_py(cmn, layer.NL, layer.ND,
-           {{sp(0.1f) * YC, sp(0.23f) * PU},
-            {sp(0.3f) * YC, sp(0.33f) * PU},
-            {YC, 0.5 * PU},
-            {3.0 * YC, sp(0.72f) * PU},
+           {{sp(0.23f) * PU, sp(0.1f) * YC},
+            {sp(0.33f) * PU, sp(0.3f) * YC},
+            {0.5 * PU, YC},
+            {sp(0.72f) * PU, 3.0 * YC},
             corner,
-            {cmn.BIGDSP, corner.P}});
+            {corner.stress, cmn.BIGDSP}});
 }
 
 void modified_matlock_curve(common& cmn, const py_layer& layer, double PU) {
   const double YC = reference_displacement(cmn, layer);
   const double PR = cyclic_resistance(cmn, layer, PU);
   store_py(cmn, layer.NL, layer.ND,
-           {{sp(0.1f) * YC, sp(0.23f) * PU},
-            {sp(0.3f) * YC, sp(0.33f) * PU},
-            {YC, 0.5 * PU},
-            {15.0 * YC, PR},
-            {25.0 * YC, PR},
-            {cmn.BIGDSP, PR}});
+           {{sp(0.23f) * PU, sp(0.1f) * YC},
+            {sp(0.33f) * PU, sp(0.3f) * YC},
+            {0.5 * PU, YC},
+            {PR, 15.0 * YC},
+            {PR, 25.0 * YC},
+            {PR, cmn.BIGDSP}});
 }
 
 }  // namespace tervak

@@ -27,8 +27,8 @@ void stiff_clay_curve(common& cmn, const py_layer& layer, const py_method& metho
   const int O = cmn.NPYORG(layer.ND, layer.NL);
   cmn.PYSTR(O, layer.ND, layer.NL) = P(1) / D1 / FS;
   cmn.PYDSP(O, layer.ND, layer.NL) = Y(1) / FL;
-  std::vector<py_point> branch;
-  for (int i = 2; i <= 11; ++i) branch.push_back({Y(i) / FL, P(i) / D1 / FS});
+  curve_side branch;
+  for (int i = 2; i <= 11; ++i) branch.push_back({P(i) / D1 / FS, Y(i) / FL});
   store_py(cmn, layer.NL, layer.ND, branch);
 }
 

@@ -46,13 +46,13 @@ void tanh_sand_curve(common& cmn, const py_layer& layer, double PU, double KV, d
   if (DEN < ZTOL) DEN = 1.0;
   const double ZC = KV * cmn.GAMWAT * layer.H / DEN;
   const double YS = PU < ZTOL ? 1.0 : sp(3.8f) / ZC;
-  std::vector<py_point> branch;
-  for (const double C : FRACTIONS) branch.push_back({YS * C, 0.0});
-  branch.push_back({cmn.BIGDSP, 0.0});
-  for (py_point& point : branch) {
-    const double X = 2 * ZC * point.Y;
+  curve_side branch;
+  for (const double C : FRACTIONS) branch.push_back({0.0, YS * C});
+  branch.push_back({0.0, cmn.BIGDSP});
+  for (curve_point& point : branch) {
+    const double X = 2 * ZC * point.displacement;
     const double E = std::exp(std::min(15.0, X));
-    point.P = ((E - 1.0) / (E + 1.0)) * APU;
+    point.stress = ((E - 1.0) / (E + 1.0)) * APU;
   }
   store_py(cmn, layer.NL, layer.ND, branch);
 }

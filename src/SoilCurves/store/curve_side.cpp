@@ -8,7 +8,7 @@ curve_side scaled_side(std::span<const curve_point> shape, double stress, double
   return side;
 }
 
-void lay_curve(const curve_family& family, int NL, int ND, const curve_side& compression,
+void lay_curve(const curve_family& family, layer_number NL, diameter_number ND, const curve_side& compression,
                const curve_side& tension) {
   const int O = family.NORG(ND, NL);
   int k = 0;

@@ -2,7 +2,8 @@
 
 namespace tervak {
 
-void mirror(curve_table& STR, curve_table& DSP, table2<int>& PNT, const table2<int>& ORG, int ND, int NL) {
+void mirror(curve_table& STR, curve_table& DSP, table2<int>& PNT, const table2<int>& ORG, diameter_number ND,
+            layer_number NL) {
   const int O = ORG(ND, NL);
   const int N = PNT(ND, NL);
   for (int I = 1; I <= N - 1; ++I) {
@@ -12,12 +13,12 @@ void mirror(curve_table& STR, curve_table& DSP, table2<int>& PNT, const table2<i
   PNT(ND, NL) = 2 * N - 1;
 }
 
-void store_py(common& cmn, int NL, int ND, const std::vector<py_point>& branch) {
+void store_py(common& cmn, layer_number NL, diameter_number ND, const curve_side& branch) {
   int I = cmn.NPYORG(ND, NL);
-  for (const py_point& point : branch) {
+  for (const curve_point& point : branch) {
     ++I;
-    cmn.PYDSP(I, ND, NL) = point.Y;
-    cmn.PYSTR(I, ND, NL) = point.P;
+    cmn.PYDSP(I, ND, NL) = point.displacement;
+    cmn.PYSTR(I, ND, NL) = point.stress;
   }
   cmn.NPYPNT(ND, NL) = static_cast<int>(branch.size()) + 1;
   mirror(cmn.PYSTR, cmn.PYDSP, cmn.NPYPNT, cmn.NPYORG, ND, NL);

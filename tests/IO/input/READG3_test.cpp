@@ -108,8 +108,8 @@ TEST(READG3, TakesModificationsInTheirPlaces) {
       EXPECT_EQ(run.log(), message.empty() ? "" : refused("READG3 : " + family + " MODIF " + message));
       auto& c = run.cmn;
       int found = 0;
-      for (const int ND : {1, 2})
-        for (const int NL : {1, 2, 3, 4})
+      for (tervak::diameter_number ND(1); ND <= 2; ++ND)
+        for (tervak::layer_number NL(1); NL <= 4; ++NL)
           found += pick(family, c.PYMOD(ND, NL)[5], c.TZMOD(ND, NL)[4], c.QZMOD(ND, NL)[4]) == 2.0;
       EXPECT_EQ(found, changed) << family;
     }

@@ -13,11 +13,11 @@ namespace {
 struct monopile_curves : Varno::KestraCommonLibrary::CommonData::IMonoPileDataProvider {
   monopile_curve mtheta, bmtheta, bsy;
   bool HasMThetaData() const override { return !mtheta.empty(); }
-  monopile_curve GetMThetaCurve(int, int) const override { return mtheta; }
+  monopile_curve GetMThetaCurve(diameter_number, layer_number) const override { return mtheta; }
   bool HasBMThetaData() const override { return !bmtheta.empty(); }
-  monopile_curve GetBMThetaCurve(int, int) const override { return bmtheta; }
+  monopile_curve GetBMThetaCurve(diameter_number, layer_number) const override { return bmtheta; }
   bool HasBSYData() const override { return !bsy.empty(); }
-  monopile_curve GetBSYCurve(int, int) const override { return bsy; }
+  monopile_curve GetBSYCurve(diameter_number, layer_number) const override { return bsy; }
 };
 
 struct listing : output_test {

@@ -2,9 +2,9 @@
 
 #include "Control/run/OutputFiles.hpp"
 #include "IO/interface_file/TervakRIFWriter.hpp"
+#include "IO/output_support.hpp"
 #include "IO/usfos/G2USFOS.hpp"
 #include "IO/usfos/G2USFOS_materials.hpp"
-#include "IO/output_support.hpp"
 
 namespace tervak {
 
@@ -20,7 +20,7 @@ TEST(usfos, NumbersRoundTheDiameterWithTwoLimits) {
               {4.5, 5, 1, 1, 4500011},    {99.49, 99, 1, 1, 99490011}, {99.5, 100, 150, 1, 101501}};
   for (const auto& row : rows) {
     EXPECT_EQ(usfos_soil_number(row.D), row.S) << row.D;
-    EXPECT_EQ(usfos_material_number(row.D, row.L, row.T), row.number) << row.D;
+    EXPECT_EQ(usfos_material_number(row.D, layer_number::of(row.L), row.T), row.number) << row.D;
   }
 }
 

@@ -145,8 +145,8 @@ TEST(AxialCurves, TipStressByCode) {
 TEST(AxialCurves, DepthTable) {
   axial_layer soil(4);
   soil.cmn.SFSKF = 1.0;
-  for (const int NL : {1, 2, 1})
-    for (const int ND : {2, 1, 2}) {
+  for (const layer_number NL : {layer_number(1), layer_number(2), layer_number(1)})
+    for (const diameter_number ND : {diameter_number(2), diameter_number(1), diameter_number(2)}) {
       TZMISC(soil.cmn, NL, ND, 588);
       EXPECT_EQ(soil.cmn.TZSTR(16, ND, NL), 64.0 * NL);
     }

@@ -11,7 +11,7 @@ namespace {
 struct modify_layers : small_layer {
   explicit modify_layers(int points, int layers = 1) : small_layer(layers) {
     for (const curve_family& family : {py_curves(cmn), tz_curves(cmn), qz_curves(cmn)})
-      for (int NL = 1; NL <= layers; ++NL) {
+      for (layer_number NL(1); NL <= layers; ++NL) {
         family.NPNT(1, NL) = points;
         for (int k = -(points / 2); k <= points / 2; ++k)
           family.STR(15 + k, 1, NL) = 10.0 * k, family.DSP(15 + k, 1, NL) = 0.1 * k;

@@ -125,6 +125,7 @@ TEST(MonoPileRead, LaysOutTheCurve) {
   }
   EXPECT_TRUE(made.HasMThetaData() && made.HasBSYData() && !made.HasBMThetaData());
   for (const auto& [ND, NL] : {std::pair{0, 1}, {3, 1}, {1, 0}, {1, 3}})
-    EXPECT_TRUE(made.GetBSYCurve(ND, NL).empty()) << ND << NL;
+    EXPECT_TRUE(made.GetBSYCurve(tervak::diameter_number::of(ND), tervak::layer_number::of(NL)).empty())
+        << ND << NL;
   EXPECT_TRUE(made.GetBMThetaCurve(1, 1).empty());
 }

@@ -8,7 +8,7 @@ using namespace tervak;
 namespace {
 
 template <int CODE>
-void automatic(common& cmn, int NL, int ND) {
+void automatic(common& cmn, layer_number NL, diameter_number ND) {
   PYAUTO(cmn, NL, ND, CODE);
 }
 

@@ -14,7 +14,7 @@
 
 namespace tervak {
 
-using py_routine = void (*)(common&, int, int);
+using py_routine = void (*)(common&, layer_number, diameter_number);
 
 /// What a case of the P-Y curves sets in a small layer (GAMWAT 10, ATMPRS 100, SUSTIF 100, EPS50 0.01).
 struct given {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "SoilCurves/store/curve_method.hpp"
+
+namespace tervak {
+
+/// The methods of the T-Z and of the Q-Z curve, one row a code. From 200 on TZMISC and QZMISC judge the code
+/// themselves: a number without a row reaches them too, and they refuse it.
+curve_methods tz_methods();
+curve_methods qz_methods();
+
+}  // namespace tervak
