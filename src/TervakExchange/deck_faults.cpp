@@ -11,7 +11,6 @@ namespace {
 constexpr std::size_t MAX_FAULTS = 20;
 constexpr std::size_t MAX_QUOTED = 100;
 constexpr std::size_t MAX_SHOWN = 60;
-constexpr const char* RECORD_END = "\r\n";
 
 std::string printable(std::string_view text) {
   std::string result(text);
@@ -46,23 +45,25 @@ void deck_faults::drop_beyond_limit() {
   if (faults_.size() > MAX_FAULTS) faults_.erase(faults_.begin() + MAX_FAULTS, faults_.end());
 }
 
-std::string deck_faults::text() const {
+std::string deck_faults::text(std::string_view line_end) const {
   deck_faults first = *this;
   first.drop_beyond_limit();
   std::string result;
   for (const fault& f : first.faults_) {
-    if (!result.empty()) result += RECORD_END;
-    result += described(f);
+    if (!result.empty()) result += line_end;
+    result += described(f.place, f.text, line_end);
   }
   if (count_ > MAX_FAULTS)
-    result += RECORD_END + ("and " + std::to_string(count_ - MAX_FAULTS)) + " more faults";
+    result.append(line_end).append("and " + std::to_string(count_ - MAX_FAULTS) + " more faults");
   return result;
 }
 
-std::string deck_faults::described(const fault& f) const {
-  const auto& [line, column, length] = f.place;
+std::string deck_faults::described(const deck_place& place, std::string_view text,
+                                   std::string_view line_end) const {
+  const auto& [line, column, length] = place;
   std::string result(file_name_);
-  result += ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + f.text;
+  result += ":" + std::to_string(line) + ":" + std::to_string(column) + ": ";
+  result += text;
   if (line > lines_.size()) return result;
 
   const std::string_view whole = lines_[line - 1];
@@ -73,9 +74,9 @@ std::string deck_faults::described(const fault& f) const {
   const std::size_t room = quoted.size() > indent ? quoted.size() - indent : 1;
 
   const std::string number = std::to_string(line);
-  result += RECORD_END + ("  " + number) + " | " + quoted;
-  result += RECORD_END + std::string(number.size() + 2, ' ') + " | " + std::string(indent, ' ') +
-            std::string(std::clamp<std::size_t>(length, 1, room), '^');
+  result.append(line_end).append("  " + number + " | " + quoted);
+  result.append(line_end).append(std::string(number.size() + 2, ' ') + " | " + std::string(indent, ' ') +
+                                 std::string(std::clamp<std::size_t>(length, 1, room), '^'));
   return result;
 }
 

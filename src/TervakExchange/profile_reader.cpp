@@ -32,7 +32,7 @@ std::string profile_draft::title() const {
 
 profile_draft profile_reader::read() {
   draft_.number = range_.number;
-  draft_.heading_line = range_.heading;
+  draft_.map.heading = range_.heading;
   draft_.profile.header = lines_[range_.heading - 1];
   set_standard_values(draft_.profile);
   find_revision();
@@ -131,6 +131,7 @@ void profile_reader::read_keyword(const deck_statement& line) {
     use.given = true;
     use.place = word.place;
   }
+  if (target == &draft_.profile) draft_.map.of(*keyword).lines.push_back(word.place.line);
   const std::size_t faults = faults_.count();
   open(*keyword, line, *target);
   if (faults_.count() != faults) use.faulty = true;
@@ -188,7 +189,11 @@ void profile_reader::read_at_line(const deck_statement& line) {
     return;
   }
   rows_ = rows::read;
-  if (target_ == &draft_.profile) ++draft_.use(*open_).curves;
+  if (target_ == &draft_.profile) {
+    ++draft_.use(*open_).curves;
+    keep_row(line);
+    draft_.map.of(*open_).points.emplace_back();
+  }
   const std::size_t faults = faults_.count();
   read_at(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_);
   if (faults_.count() != faults) draft_.use(*open_).faulty = true;
@@ -208,14 +213,27 @@ void profile_reader::read_open_row(const deck_statement& line) {
   keyword_use& use = draft_.use(*open_);
   if (target_ == &draft_.profile) ++use.rows;
   const std::size_t faults = faults_.count();
-  if (closed_)
+  if (closed_) {
     faults_.add(line.fields[0].place, "this row of " + std::string(open_->name) +
                                           " stands behind a row whose L1 is 0, which closes the list");
-  else if (const auto* table = std::get_if<const deck_table*>(&open_->what))
+  } else if (const auto* table = std::get_if<const deck_table*>(&open_->what)) {
+    keep_row(line);
     closed_ = (*table)->read_row(line, *target_, faults_);
-  else if (!read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_))
-    lose_rows(), rows_ = rows::before_at;
+  } else if (read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_)) {
+    if (target_ == &draft_.profile) draft_.map.of(*open_).points.back().push_back(line.fields[0].place.line);
+  } else {
+    lose_rows();
+    rows_ = rows::before_at;
+  }
   if (faults_.count() != faults) use.faulty = true;
+}
+
+/// The places of a table that stands twice, and of rows with a fault, serve nobody: the deck is refused.
+void profile_reader::keep_row(const deck_statement& line) {
+  if (target_ != &draft_.profile) return;
+  keyword_map& map = draft_.map.of(*open_);
+  map.records.push_back({map.rows.size()});
+  map.rows.push_back(line.fields[0].place.line);
 }
 
 }  // namespace Vrsk::Plin::TervakExchange

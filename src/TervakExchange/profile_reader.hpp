@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "TervakExchange/deck_keywords.hpp"
+#include "TervakExchange/deck_map.hpp"
 
 namespace Vrsk::Plin::TervakExchange {
 
@@ -21,10 +21,10 @@ struct keyword_use {
 
 /// A profile as read, and what the checks that concern the whole profile need to know about it.
 struct profile_draft {
-  int number = 0;  ///< in the deck, from 1
-  std::size_t heading_line = 0;
+  int number = 0;     ///< in the deck, from 1
   bool empty = true;  ///< nothing stands behind the heading
   Tervak profile;
+  profile_map map;
   std::vector<keyword_use> uses = std::vector<keyword_use>(deck_keywords().size());
 
   [[nodiscard]] keyword_use& use(const deck_keyword& keyword) {
@@ -65,6 +65,7 @@ class profile_reader {
   void lose_rows();
   void read_row(const deck_statement& line);
   void read_open_row(const deck_statement& line);
+  void keep_row(const deck_statement& line);
   [[nodiscard]] bool in_curves() const {
     return (rows_ == rows::read || rows_ == rows::before_at) &&
            std::holds_alternative<const deck_curves*>(open_->what);
