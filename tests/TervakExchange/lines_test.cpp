@@ -34,17 +34,6 @@ TEST(DeckLines, Headings) {
   EXPECT_EQ(profiles[1].GetHeader(), " END?! second");
 }
 
-TEST(DeckLines, WordsThatLookLikeEnd) {
-  // Each closes the profile as it was meant to: the profile behind it is judged as the second one.
-  for (const char* word : {"End", "end", "eND"})
-    EXPECT_EQ(places(std::string(REVISION5) + word + "  ! x\nB-7\n" + with(REVISION5, 3, "").substr(10)),
-              "24:1: \"" + std::string(word) +
-                  "\" does not close a profile; write END in columns 1 to 3\n"
-                  "25:1: profile 2 \"B-7\" has no GAMWAT\n");
-  EXPECT_EQ(places(std::string(REVISION5) + " END\n"),
-            "24:2: \"END\" does not close a profile; write END in columns 1 to 3\n");
-}
-
 TEST(DeckLines, QuotedLineAndCaret) {
   EXPECT_EQ(refusal(with(REVISION5, 3, "GAMWAT\t1\x02\x7F ! c\r\n")),
             "tervak.inp:3:8: GAMWAT takes one number, found \"1??\"\r\n"
