@@ -185,17 +185,12 @@ void lay_rows(const factor_table<R>& table, keyword_map& map, const std::vector<
   map.records = std::move(origins);
 }
 
-bool read_whole(const profile_draft& draft, std::string_view name) {
-  const keyword_use& use = draft.use(name);
-  return use.given && !use.faulty && !use.cut && use.rows > 0;
-}
-
 /// MODIFYPY, MODIFYTZ or MODIFYQZ.
 template <class R>
 void expand_list(profile_draft& draft, const std::optional<deck_layers>& layers,
                  const std::vector<std::string_view>& lines, deck_faults& faults,
                  const factor_table<R>& table, const R& plain) {
-  if (!read_whole(draft, table.name)) return;
+  if (!draft.use(table.name).read_whole()) return;
   keyword_map& map = draft.map.of(*find_keyword(table.name));
   const std::optional<bool> main = names_main_layers(draft, table.name, lines, faults);
   if (!main || !layers) return;
@@ -211,7 +206,7 @@ void expand_list(profile_draft& draft, const std::optional<deck_layers>& layers,
 void expand_monopile(profile_draft& draft, const std::optional<deck_layers>& layers,
                      const std::vector<std::string_view>& lines, deck_faults& faults,
                      const factor_table<MonopileModificationRecord>& table) {
-  if (!read_whole(draft, table.name)) return;
+  if (!draft.use(table.name).read_whole()) return;
   const keyword_map& map = draft.map.of(*find_keyword(table.name));
   const std::optional<bool> main = names_main_layers(draft, table.name, lines, faults);
   if (!main || !*main || !layers) return;

@@ -34,6 +34,20 @@ TEST(DeckLines, Headings) {
   EXPECT_EQ(profiles[1].GetHeader(), " END?! second");
 }
 
+TEST(DeckLines, Encodings) {
+  EXPECT_EQ(read("\xEF\xBB\xBF" + std::string(REVISION5)).at(0).GetHeader(), "Heading 5");
+  const std::string utf16 =
+      "1:1: the deck is written in UTF-16, two bytes a character; save it as plain text in UTF-8 (or ANSI), in "
+      "the editor by \"Save as\" and the encoding\n";
+  for (const bool big_endian : {false, true}) {
+    std::string wide;
+    for (const char* c = REVISION5; *c != '\0'; ++c)
+      wide += big_endian ? std::string{'\0', *c} : std::string{*c, '\0'};
+    EXPECT_EQ(places(wide), utf16);
+    EXPECT_EQ(places((big_endian ? "\xFE\xFF" : "\xFF\xFE") + wide), utf16);
+  }
+}
+
 TEST(DeckLines, QuotedLineAndCaret) {
   EXPECT_EQ(refusal(with(REVISION5, 3, "GAMWAT\t1\x02\x7F ! c\r\n")),
             "tervak.inp:3:8: GAMWAT takes one number, found \"1??\"\r\n"
@@ -109,6 +123,9 @@ TEST(DeckLines, LongDecksAndLinesInLinearTime) {
   };
   seconds(rows(1000));
   EXPECT_LT(seconds(rows(20000)), 4 * seconds(rows(10000)) + 0.05);
+  std::string unknown = REVISION5;  // the nearest keyword is sought for those that are shown
+  for (int i = 0; i < 100000; ++i) unknown += "GAMWAT" + std::to_string(i) + "X 1\n";
+  EXPECT_LT(seconds(unknown), 5);
   for (const char* piece : {"x", "1", "1 ", "\t", "\xFF"}) {
     std::string line;
     for (int i = 0; i < 200000; ++i) line += piece;
