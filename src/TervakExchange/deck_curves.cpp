@@ -9,7 +9,7 @@ namespace Vrsk::Plin::TervakExchange {
 
 namespace {
 
-using D = TervakInputData;
+using input_data = TervakInputData;
 
 template <auto Section>
 constexpr auto records() {
@@ -22,12 +22,15 @@ constexpr auto flag() {
 bool* no_flag(Tervak&) { return nullptr; }
 
 constexpr deck_curves CURVES[] = {
-    {"MANUALPY", "stress", "displacement", records<&D::ManualPy>(), no_flag},
-    {"MANUALTZ", "stress", "displacement", records<&D::ManualTz>(), no_flag},
-    {"MANUALQZ", "stress", "displacement", records<&D::ManualQz>(), no_flag},
-    {"MANUALMTHETA", "moment", "rotation", records<&D::ManualMtheta>(), flag<&ControlSection::DMData>()},
-    {"MANUALBSY", "force", "displacement", records<&D::ManualBSY>(), flag<&ControlSection::BSData>()},
-    {"MANUALBMTHETA", "moment", "rotation", records<&D::ManualBMtheta>(), flag<&ControlSection::BMData>()},
+    {"MANUALPY", "stress", "displacement", records<&input_data::ManualPy>(), no_flag},
+    {"MANUALTZ", "stress", "displacement", records<&input_data::ManualTz>(), no_flag},
+    {"MANUALQZ", "stress", "displacement", records<&input_data::ManualQz>(), no_flag},
+    {"MANUALMTHETA", "moment", "rotation", records<&input_data::ManualMtheta>(),
+     flag<&ControlSection::DMData>()},
+    {"MANUALBSY", "force", "displacement", records<&input_data::ManualBSY>(),
+     flag<&ControlSection::BSData>()},
+    {"MANUALBMTHETA", "moment", "rotation", records<&input_data::ManualBMtheta>(),
+     flag<&ControlSection::BMData>()},
 };
 
 }  // namespace
@@ -38,12 +41,16 @@ void read_at(const deck_curves& curves, const deck_statement& line, Tervak& prof
   ManualCurveRecord record;
   if (!refuse_commas(line, "AT", faults)) {
     if (line.fields.size() == 3) {
-      read_integer(line.fields[1], "AT", "an integer as layer", record.Layer, faults);
+      if (is_main_layer(line.fields[1].text))
+        read_main_layer(line.fields[1], "AT", record.Layer, faults);
+      else
+        read_integer(line.fields[1], "AT", "an integer as layer", record.Layer, faults);
       read_number(line.fields[2], "AT", "a number as diameter", record.Diameter, faults);
     } else {
       const std::size_t found = line.fields.size() - 1;
       faults.add(line.fields[0].place, "AT takes a layer and a diameter, found " + std::to_string(found) +
-                                           (found == 1 ? " field" : " fields") + " behind it");
+                                           (found == 1 ? " field" : " fields") + " behind it" +
+                                           std::string(ascii_hint(line.code)));
     }
   }
   curves.records(profile).push_back(record);

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "TervakExchange/deck_keywords.hpp"
+#include "TervakExchange/deck_map.hpp"
 
 namespace Vrsk::Plin::TervakExchange {
 
@@ -17,14 +17,18 @@ struct keyword_use {
   deck_place place;     ///< of the keyword
   std::size_t curves = 0;  ///< AT lines behind it
   std::size_t rows = 0;    ///< rows behind it, faulty ones too
+
+  /// Whether all its values are known.
+  [[nodiscard]] bool read_whole() const { return given && !faulty && !cut; }
 };
 
 /// A profile as read, and what the checks that concern the whole profile need to know about it.
 struct profile_draft {
-  int number = 0;  ///< in the deck, from 1
-  std::size_t heading_line = 0;
-  bool empty = true;  ///< nothing stands behind the heading
+  int number = 0;          ///< in the deck, from 1
+  bool empty = true;       ///< nothing stands behind the heading
+  bool any_meant = false;  ///< a word that was not looked into may mean any keyword that is not given
   Tervak profile;
+  profile_map map;
   std::vector<keyword_use> uses = std::vector<keyword_use>(deck_keywords().size());
 
   [[nodiscard]] keyword_use& use(const deck_keyword& keyword) {
@@ -65,6 +69,13 @@ class profile_reader {
   void lose_rows();
   void read_row(const deck_statement& line);
   void read_open_row(const deck_statement& line);
+  void keep_row(const deck_statement& line);
+  /// Also behind a word that was most likely meant as the name of such a table.
+  [[nodiscard]] bool takes_main_layers() const {
+    if (rows_ == rows::passed_over) return true;
+    const auto* table = open_ ? std::get_if<const deck_table*>(&open_->what) : nullptr;
+    return rows_ == rows::read && table && (*table)->counts_layers();
+  }
   [[nodiscard]] bool in_curves() const {
     return (rows_ == rows::read || rows_ == rows::before_at) &&
            std::holds_alternative<const deck_curves*>(open_->what);
