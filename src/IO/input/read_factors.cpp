@@ -1,4 +1,4 @@
-#include "IO/input/factor_rows.hpp"
+#include "IO/input/read_factors.hpp"
 
 #include <cmath>
 
