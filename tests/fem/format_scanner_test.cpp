@@ -37,7 +37,7 @@ std::string walked(std::string_view format, int count, bool final = false) {
 
 }  // namespace
 
-TEST(format_scanner, turns_each_notation_into_its_tokens) {
+TEST(FormatScanner, TurnsEachNotationIntoItsTokens) {
   const std::pair<const char*, const char*> rows[] = {
       // clang-format off
       {"()", ""}, {" ( 1X , A80 )\t", "1x a80"}, {"(1p,e11.3)", "1p e11.3"}, {"(1pe11.3)", "1p e11.3"},
@@ -53,7 +53,7 @@ TEST(format_scanner, turns_each_notation_into_its_tokens) {
   for (const auto& [format, tokens] : rows) EXPECT_EQ(scanned(format), tokens) << format;
 }
 
-TEST(format_scanner, takes_formats_of_any_length) {
+TEST(FormatScanner, TakesFormatsOfAnyLength) {
   for (const std::size_t size : {121U, 122U, 123U, 400U}) {  // 128 characters are the most without heap
     const std::string text(size, 'Q');
     EXPECT_EQ(scanned("('" + text + "',i1)"), "'" + text + "' i1");
@@ -63,7 +63,7 @@ TEST(format_scanner, takes_formats_of_any_length) {
   EXPECT_EQ(scanned(many + ")"), tokens);
 }
 
-TEST(format_scanner, refuses_what_is_no_format) {
+TEST(FormatScanner, RefusesWhatIsNoFormat) {
   EXPECT_FAILURE(scanned(" \t "), "Invalid FORMAT specification: empty string");
   EXPECT_FAILURE(scanned("(4H ABC)"), "FATAL: Not supported: FORMAT Hollerith edit descriptor: (4habc)");
   EXPECT_FAILURE(scanned("('it''s', E5.)"), "Invalid FORMAT specification: ('it''s',e5.)");
@@ -72,7 +72,7 @@ TEST(format_scanner, refuses_what_is_no_format) {
     EXPECT_FAILURE(scanned(format), "Invalid FORMAT specification: " + format);
 }
 
-TEST(format_cursor, repeats_tokens_and_groups_and_restarts_at_the_last_outer_group) {
+TEST(FormatCursor, RepeatsTokensAndGroupsAndRestartsAtTheLastOuterGroup) {
   EXPECT_EQ(walked("(3i5,2/,1x)", 7, true), "i5 i5 i5 / / 1x -");
   EXPECT_EQ(walked("(2(i1,2(a,'-')),i2)", 12, true), "i1 a '-' a '-' i1 a '-' a '-' i2 -");
   EXPECT_EQ(walked("()", 1, true), "-");
@@ -85,7 +85,7 @@ TEST(format_cursor, repeats_tokens_and_groups_and_restarts_at_the_last_outer_gro
   EXPECT_EQ(walked("(i1,2(i2,)", 3), "i1 i2 /");
 }
 
-TEST(format_cursor, refuses_bad_counts_and_parentheses_when_it_meets_them) {
+TEST(FormatCursor, RefusesBadCountsAndParenthesesWhenItMeetsThem) {
   EXPECT_FAILURE(walked("(i5,3)", 2), "Trailing lone repeat count in format string.");
   EXPECT_FAILURE(walked("(i5,0i5)", 2), "Zero repeat count in format string.");
   EXPECT_FAILURE(walked("(i5),i6)", 2), "Unexpected closing parenthesis in format string.");

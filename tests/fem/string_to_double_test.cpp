@@ -9,7 +9,7 @@
 using fem::utils::simple_istream_from_std_string;
 
 // The text, decimals, scale, the value, and what is left behind the number.
-TEST(string_to_double, reads_each_notation) {
+TEST(StringToDouble, ReadsEachNotation) {
   const struct {
     const char* text;
     int decimals, scale;
@@ -40,7 +40,7 @@ TEST(string_to_double, reads_each_notation) {
 
 // The sum of digit * 10^-n and one product, not the nearest double: 0.3 is (3.0) / 10, 0.7 as well, but
 // 8.41 is 8 + 0.4 + 0.01 summed in that order.
-TEST(string_to_double, sums_digit_by_digit) {
+TEST(StringToDouble, SumsDigitByDigit) {
   for (const auto& [text, sum] : {std::pair{"8.41", 8 * 1.0 + 4 * 0.1 + 1 * 0.01},
                                   std::pair{"0.379", (3 * 1.0 + 7 * 0.1 + 9 * 0.01) / 10.0}}) {
     simple_istream_from_std_string in(text);
@@ -48,7 +48,7 @@ TEST(string_to_double, sums_digit_by_digit) {
   }
 }
 
-TEST(string_to_double, tells_why_there_is_no_number) {
+TEST(StringToDouble, TellsWhyThereIsNoNumber) {
   const std::string invalid = "Invalid character while reading floating-point value: ",
                     at_end = "End of input while reading floating-point value.",
                     range = "Out-of-range error while reading floating-point value.";
@@ -71,7 +71,7 @@ TEST(string_to_double, tells_why_there_is_no_number) {
   EXPECT_THROW(fem::utils::string_to_double(huge, 0, 0), std::out_of_range);
 }
 
-TEST(character_description, names_what_cannot_be_seen) {
+TEST(CharacterDescription, NamesWhatCannotBeSeen) {
   // clang-format off
   for (const auto& [c, text] : {
            std::pair{'~' + 0, "\"~\" (ordinal=126)"}, {' ', "\" \" (ordinal=32)"}, {31, "ordinal=31"},

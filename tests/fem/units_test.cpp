@@ -13,7 +13,7 @@ using std::filesystem::exists;
 
 namespace {
 
-class units_test : public fem_directory {
+class UnitsTest : public fem_directory {
  protected:
   std::string line(int unit) {
     fem::fixed_text<5> text;
@@ -24,7 +24,7 @@ class units_test : public fem_directory {
 
 }  // namespace
 
-TEST_F(units_test, open_reports_through_iostat_and_success_leaves_it) {
+TEST_F(UnitsTest, OpenReportsThroughIostatAndSuccessLeavesIt) {
   put("there", "old text\n");
   const auto iostat_of = [&](int unit, const char* name, const char* status, int iostat = 7) {
     fem::open(units, unit, name).status(status).form("FORMATTED").iostat(&iostat).finish();
@@ -40,7 +40,7 @@ TEST_F(units_test, open_reports_through_iostat_and_success_leaves_it) {
 }
 
 // An open without iostat throws, but for a missing old file; a unit whose open failed takes no statement.
-TEST_F(units_test, failures_are_told) {
+TEST_F(UnitsTest, FailuresAreTold) {
   int iostat = 0;
   std::filesystem::create_directory("d");
   EXPECT_NO_THROW(fem::open(units, 14, "missing").status("OLD").finish());
@@ -70,14 +70,14 @@ TEST_F(units_test, failures_are_told) {
   EXPECT_EQ(fem::io::keyword_index(table, "renew", nullptr), -1);
 }
 
-TEST_F(units_test, a_unit_nobody_opened_gets_a_file_of_its_own_name) {
+TEST_F(UnitsTest, AUnitNobodyOpenedGetsAFileOfItsOwnName) {
   for (const int unit : {7, 30, 1234}) fem::write(units, unit, "(i1)", 1);
   fem::rewind(units, 15);
   for (const char* name : {"fem_io_unit_007", "fem_io_unit_030", "fem_io_unit_1234", "fem_io_unit_015"})
     EXPECT_TRUE(exists(name)) << name;
 }
 
-TEST_F(units_test, writing_cuts_the_file_at_the_present_position) {
+TEST_F(UnitsTest, WritingCutsTheFileAtThePresentPosition) {
   put("f", "one\r\ntwo\nthree\nfour\n");
   fem::open(units, 14, "f").finish();
   EXPECT_EQ(line(14), "one  ");
@@ -100,7 +100,7 @@ TEST_F(units_test, writing_cuts_the_file_at_the_present_position) {
 }
 
 // Nobody, not even root, writes to a running program or to a directory.
-TEST_F(units_test, a_file_that_may_not_be_appended_to_opens_for_reading) {
+TEST_F(UnitsTest, AFileThatMayNotBeAppendedToOpensForReading) {
   std::filesystem::create_directory("d");
   fem::open(units, 14, "/proc/self/exe").finish();
   EXPECT_EQ(line(14).substr(1, 3), "ELF");
@@ -111,7 +111,7 @@ TEST_F(units_test, a_file_that_may_not_be_appended_to_opens_for_reading) {
   EXPECT_IO_ERR(fem::read_list_directed(units, 15, value), "Input error while reading floating-point value.");
 }
 
-TEST_F(units_test, a_unit_can_be_closed_and_opened_on_another_name) {
+TEST_F(UnitsTest, AUnitCanBeClosedAndOpenedOnAnotherName) {
   int iostat = 5;
   fem::close(units, 14, &iostat);
   EXPECT_EQ(iostat, 5);
@@ -134,7 +134,7 @@ TEST_F(units_test, a_unit_can_be_closed_and_opened_on_another_name) {
   EXPECT_EQ(line(14), "c    ");
 }
 
-TEST_F(units_test, standard_units_are_left_alone) {
+TEST_F(UnitsTest, StandardUnitsAreLeftAlone) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   fem::write(units, 6, "(i3)", 42);
@@ -145,7 +145,7 @@ TEST_F(units_test, standard_units_are_left_alone) {
   EXPECT_EQ(std::fflush(stdout), 0);
 }
 
-TEST_F(units_test, scratch_files_live_until_their_unit_is_closed) {
+TEST_F(UnitsTest, ScratchFilesLiveUntilTheirUnitIsClosed) {
   const auto files = [] { return std::distance(std::filesystem::directory_iterator("."), {}); };
   {
     fem::io own;
@@ -162,7 +162,7 @@ TEST_F(units_test, scratch_files_live_until_their_unit_is_closed) {
   EXPECT_EQ(files(), 0);
 }
 
-TEST(scratch_names, passes_over_names_that_exist_and_gives_up_in_the_end) {
+TEST(ScratchNames, PassesOverNamesThatExistAndGivesUpInTheEnd) {
   fem::utils::scratch_names names;
   int tried = 0;
   const auto third = [&](const std::string&) { return ++tried < 3; };
@@ -173,7 +173,7 @@ TEST(scratch_names, passes_over_names_that_exist_and_gives_up_in_the_end) {
   EXPECT_EQ(tried, 1003);
 }
 
-TEST_F(units_test, clean_up_deletes_the_regular_files_of_the_runtime) {
+TEST_F(UnitsTest, CleanUpDeletesTheRegularFilesOfTheRuntime) {
   for (const char* name : {"fem_io_unit_015", "fem_io", "fem_i", "my_fem_io"}) put(name, "");
   std::filesystem::create_directory("fem_io_directory");
   std::filesystem::create_symlink("nowhere", "dangling");
@@ -185,7 +185,7 @@ TEST_F(units_test, clean_up_deletes_the_regular_files_of_the_runtime) {
   EXPECT_TRUE(exists("fem_i") && exists("my_fem_io") && exists("fem_io_directory"));
 }
 
-TEST(stop_info, tells_place_and_message_or_code) {
+TEST(StopInfo, TellsPlaceAndMessageOrCode) {
   EXPECT_STREQ(fem::stop_info("Control\\build5", 637, -1, " ").what(), "STOP at Control\\build5(637):  ");
   EXPECT_STREQ(fem::stop_info("IO\\readg2", 181, 3, "").what(), "STOP at IO\\readg2(181): code=3");
   EXPECT_STREQ(fem::stop_info("a", 1, 0, "").what(), "STOP at a(1)");

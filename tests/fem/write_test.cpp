@@ -8,7 +8,7 @@
 
 namespace {
 
-class write_test : public fem_directory {
+class WriteTest : public fem_directory {
  protected:
   /// What one statement writes to unit 16.
   template <class... Items>
@@ -21,7 +21,7 @@ class write_test : public fem_directory {
 
 }  // namespace
 
-TEST_F(write_test, edits_its_items) {
+TEST_F(WriteTest, EditsItsItems) {
   fem::fixed_text<3> fixed;
   fixed.assign("abc");
   const fem::text_ref ref = fixed;
@@ -70,7 +70,7 @@ TEST_F(write_test, edits_its_items) {
   EXPECT_EQ(written("(f0.1)", 1e300).size(), 304U);
 }
 
-TEST_F(write_test, a_text_target_is_filled_or_cut) {
+TEST_F(WriteTest, ATextTargetIsFilledOrCut) {
   char text[] = "##########";
   const fem::text_ref target{text, 8};
   fem::write(target, "(i3,/,a)", 12, "ab");
@@ -81,7 +81,7 @@ TEST_F(write_test, a_text_target_is_filled_or_cut) {
   EXPECT_STREQ(text, " 1.5    ##");
 }
 
-TEST_F(write_test, a_failure_ends_the_statement_with_what_was_written) {
+TEST_F(WriteTest, AFailureEndsTheStatementWithWhatWasWritten) {
   const auto failing = [&](const char* format) {
     return failure_of([&] { fem::write(units, 16, format, 1, 2); });
   };
@@ -97,7 +97,7 @@ TEST_F(write_test, a_failure_ends_the_statement_with_what_was_written) {
   EXPECT_EQ(printed(16), "111111--\n--");
 }
 
-TEST_F(write_test, a_failing_item_ends_the_record_and_each_end_flushes) {
+TEST_F(WriteTest, AFailingItemEndsTheRecordAndEachEndFlushes) {
   try {
     fem::write_loop loop(units, 16, "(i1,'-',i1)");
     loop(1);
@@ -110,7 +110,7 @@ TEST_F(write_test, a_failing_item_ends_the_record_and_each_end_flushes) {
   EXPECT_EQ(get("fem_io_unit_016"), "1-\r\n2\r\n");
 }
 
-TEST_F(write_test, list_directed_records_stay_within_80_columns) {
+TEST_F(WriteTest, ListDirectedRecordsStayWithin80Columns) {
   {
     fem::write_loop loop(units, 16, fem::io_mode::list_directed);
     loop("ab")("cd")(7)("x")(0.5)(1.0)(-3)(1)("end");
@@ -122,7 +122,7 @@ TEST_F(write_test, list_directed_records_stay_within_80_columns) {
   EXPECT_EQ(printed(17), " " + std::string(79, 'a') + "\n bc\n");
 }
 
-TEST_F(write_test, unformatted_items_are_raw_bytes) {
+TEST_F(WriteTest, UnformattedItemsAreRawBytes) {
   const double value = 1.5;
   { fem::write_loop(units, 16, fem::io_mode::unformatted)("ab")(0x01020304)(value); }
   const std::string bytes = get("fem_io_unit_016");
@@ -130,7 +130,7 @@ TEST_F(write_test, unformatted_items_are_raw_bytes) {
   EXPECT_EQ(bytes.substr(6, 8), std::string(reinterpret_cast<const char*>(&value), sizeof value));
 }
 
-TEST(simple_ostream, keeps_its_failure) {
+TEST(SimpleOstream, KeepsItsFailure) {
   char text[] = "####";
   fem::utils::simple_ostream_to_char_ptr_and_size out({text, 3});
   out.put("ab");

@@ -1,8 +1,6 @@
-// Bad input of every kind ends in a clear line and an exit status, never in a crash, a hang or a changed
-// deck.
+// Files that cannot be read, written or moved end in a clear line and an exit status, and nothing is lost.
 
 #include <filesystem>
-#include <sstream>
 
 #include "run/small_deck.hpp"
 #include "support/run_directory.hpp"
@@ -10,69 +8,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-struct bad_deck {
-  const char* what;
-  std::string deck;
-  int status;
-  const char* log_line;  ///< a text that the run log holds
-};
-
-std::string rows(const char* table, int count, const char* row) {
-  std::ostringstream text;
-  text << table << '\n';
-  for (int m = 1; m <= count; ++m) text << m << ' ' << m << ".0 " << row << '\n';
-  return text.str();
-}
-
-/// A revision 5 deck of `count` main layers of one metre.
-std::string many_layers(int count) {
-  std::string deck = small_deck().substr(0, small_deck().find("MAINLAYERS"));
-  deck += rows("MAINLAYERS", count, "18.0 0.0 0.0 0.0 0.0 40.0 60.0 30 0.01 0.25 0.0");
-  std::ostringstream friction;
-  friction << "SKINFRICTION\n";
-  for (int m = 1; m <= count; ++m) friction << m << " 0 20.0 30.0 20.0 30.0 360.0 540.0 1.0 0.9 0.01\n";
-  return deck + friction.str() + rows("SUBDIVISION", count, "1 284 293 293 0");
-}
-
-std::string many_diameters(int count) {
-  std::ostringstream text;
-  text << "DIAM";
-  for (int n = 1; n <= count; ++n) text << ' ' << n << ".0";
-  return with(small_deck(), "DIAM     1.0", text.str());
-}
-
-TEST(BadInput, EndsInAClearLine) {
-  const bad_deck table[] = {
-      {"an empty file", "", 1, "tervak.inp:1:1: "},
-      {"binary bytes",
-       std::string("\x7f"
-                   "ELF\0\1\2\3\xff\xfe\n\0\0\x80\n",
-                   16),
-       1, "tervak.inp:2:1: "},
-      {"a line of a million characters", small_deck() + std::string(1000000, '7') + "\n", 1,
-       "tervak.inp:25:"},
-      {"a heading of a million characters", std::string(1000000, 'x') + small_deck(), 0, "NORMAL EXIT"},
-      {"501 main layers", many_layers(501), 1, " **** SR/READGE : NUMLAYM ERROR  NUMLAYM,MAX=  501  500\r\n"},
-      {"500 main layers", many_layers(500), 0, "NORMAL EXIT"},
-      {"501 layers of one main layer", with(small_deck(), "1 10.0 2 284", "1 10.0 501 284"), 1,
-       " Layer, subdivisions, max allowed layers =    1  501  500\r\n"},
-      {"51 diameters", many_diameters(51), 1, " **** SR/READGE : NUMDIA,MAXDIA=   51   50\r\n"},
-      {"50 diameters", many_diameters(50), 0, "NORMAL EXIT"},
-      {"no diameter above the last", with(small_deck(), "DIAM     1.0", "DIAM     1.0 1.0"), 1,
-       " **** SR/READGE : DIAM SEQUENCE ERROR     1.000     1.000\r\n"},
-  };
-  for (const bad_deck& row : table) {
-    SCOPED_TRACE(row.what);
-    const run_directory directory;
-    directory.deck(row.deck);
-    EXPECT_EQ(directory.run(), row.status);
-    const std::string log = directory.read("TERVAK.MLG");
-    EXPECT_NE(log.find(row.log_line), std::string::npos) << log.substr(0, 6000);
-    EXPECT_EQ(directory.read("TERVAK.INP"), row.deck);
-    EXPECT_EQ(directory.read("tervak.inp"), row.deck);
-  }
-}
 
 TEST(BadInput, ADirectoryInPlaceOfTheDeckIsRefused) {
   const run_directory directory;

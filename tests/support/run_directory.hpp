@@ -6,8 +6,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -64,10 +62,11 @@ class run_directory : public work_directory {
   std::filesystem::path path_ = std::filesystem::current_path();
 };
 
-inline std::string example(const std::string& name) {
-  std::ifstream in(std::string(TERVAK_SOURCE_DIR) + "/examples/" + name, std::ios::binary);
-  EXPECT_TRUE(in.is_open()) << name;
-  return {std::istreambuf_iterator<char>(in), {}};
+/// A file of the repository.
+inline std::string file(const std::string& name) {
+  const std::string path = std::string(TERVAK_SOURCE_DIR) + "/" + name;
+  EXPECT_TRUE(std::filesystem::exists(path)) << path;
+  return work_directory::get(path);
 }
 
 /// Replaces the first occurrence; the test fails when there is none.

@@ -4,54 +4,30 @@ namespace {
 
 Vrsk::Plin::TervakExchange::TervakInputData& data(P p) { return p.data; }
 
-void displace(P p, int points) {
-  for (int n = 1; n <= points; ++n) data(p).SoilDisplacements.push_back({1.0 * n, 0, 0, 0, 0});
-}
-
-TEST(READGE, Limits) {
-  // clang-format off
-  const std::vector<limit_row> rows{
-      {[](P p, double x) { data(p).NumberOfSoilTypes = int(x); }, {0, 501}, {}, "NUMTYP ERROR  NUMTYP,MAX=%5.0f  500"},
-      {[](P p, double x) { data(p).NumberOfTzQzRows = int(x); }, {0, 10001}, {}, "NUMTQZ ERROR  NUMTQZ,MAX=%5.0f10000"},
-      {[](P p, double x) { data(p).Layers[0].LastLayer = 500, data(p).NumberOfLayers = int(x); }, {0, 501}, {500}, "NUMLAYM ERROR  NUMLAYM,MAX=%5.0f  500"},
-      {[](P p, double x) { displace(p, 50), data(p).NumberOfDisplacements = int(x); }, {-1, 51}, {0, 50}, "NUMDSP ERROR  NUMDSP,MAX=%5.0f   50"},
-      {[](P p, double x) { data(p).LevelSwitch = int(x); }, {0, 3}, {1, 2}, "MIDBOT ERROR  MIDBOT = %5.0f"},
-      {[](P p, double x) { p.waterUnitWeight = x; }, {0, -1}, {7}, "GAMWAT ERROR  GAMWAT = %10.3f"},
-      {[](P p, double x) { data(p).AtmosphericPressure = x; }, {0, -1}, {10}, "ATMPRS ERROR  ATMPRS =%10.3f"},
-      {[](P p, double x) { p.tanPhiCoeff = x; }, {0, -1}, {0.5}, "SFTPHI ERROR  SFTPHI =%10.3f"},
-      {[](P p, double x) { p.shearStrengthCoeff = x; }, {0, -1}, {0.5}, "SFSU ERROR  SFSU =%10.3f"},
-      {[](P p, double x) { p.skinFrictionCoeff = x; }, {0, -1}, {0.5}, "SFSKF ERROR  SFSKF =%10.3f"},
-      {[](P p, double x) { p.pileTipResistanceCoeff = x; }, {0, -1}, {0.5}, "SFSIGT ERROR  SFSIGT =%10.3f"},
-      {[](P p, double x) { data(p).Diameters[1] = x; }, {1.0, 0.5}, {1.001}, "DIAM SEQUENCE ERROR     1.000%10.3f"},
-      {[](P p, double x) { p.modulusOfElasticitySlope = x; }, {-1}, {0}, "ESOL0,ESOL1 ERROR     0.000%10.3f"},
-      {[](P p, double x) { p.averagePoissonRatio = x; }, {-0.1, 0.501}, {0, 0.5}, "POSAVR ERROR%10.3f"},
-      {[](P p, double x) { p.depthOfScour = x; }, {-1, 0.5}, {0}, "SCRGEN,SCRLOC ERROR%10.3f     0.000"},
-      {[](P p, double x) { data(p).PorePressureUnitWeight = x; }, {-1, 21.001}, {0, 20.999}, "GAMPWP,GAMMAW ERROR%10.3f    10.000"},
-  };
-  // clang-format on
-  expect_limits(4, "READGE", rows);
-}
-
-// A flat side of the scour is refused only where there is a hole; the slope comes in radians.
-TEST(READGE, SlopesDiametersAndWarnings) {
-  const std::string slope = "READGE : LOCAL SCOUR SLOPE ERROR", warning = " **** WARNING FROM SR/READGE : ";
-  // clang-format off
-  const change_rows rows{
-      {[](P p) { p.depthOfLocalScour = 1.0; }, refused(slope + "     0.000")},
-      {[](P p) { p.depthOfLocalScour = 1.0, p.sideSlope = 0.002; }, ""},
-      {[](P p) { p.sideSlope = -0.1; }, refused(slope + "    -5.730")},
-      {[](P p) { p.sideSlope = 1.57; }, refused(slope + "    89.954")},
-      {[](P p) { p.sideSlope = 1.569; }, ""},
-      {[](P p) { data(p).Diameters.clear(); }, refused("READGE : NUMDIA ERROR  NUMDIA,MAX=    0   50")},
-      {[](P p) { p.lowestShearStiff = 0.0; }, passed(warning + "SUSTIF =      0.000")},
-      {[](P p) { p.lowestShearStiff = 1000.0; }, ""},
-      {[](P p) { p.lowestShearStiff = 1001.0; }, passed(warning + "SUSTIF =   1001.000")},
-      {[](P p) { data(p).PrintLevel = 3; }, passed(warning + "JPRINT =    3")},
-      {[](P p) { data(p).EchoSwitch = 2; }, passed(warning + "JECHO =    2")},
-      {[](P p) { data(p).PrintLevel = data(p).EchoSwitch = -1; }, ""},
-  };
-  // clang-format on
-  expect_changes(4, rows);
+// Counts that no deck brings, since its rows are counted.
+TEST(READGE, JudgesCounts) {
+  using input = Vrsk::Plin::TervakExchange::TervakInputData;
+  const struct {
+    int input::*count;
+    int value;
+    const char* message;  // none: it passes
+  } rows[] = {{&input::NumberOfSoilTypes, 0, "NUMTYP ERROR  NUMTYP,MAX=    0  500"},
+              {&input::NumberOfSoilTypes, 501, "NUMTYP ERROR  NUMTYP,MAX=  501  500"},
+              {&input::NumberOfTzQzRows, 0, "NUMTQZ ERROR  NUMTQZ,MAX=    010000"},
+              {&input::NumberOfTzQzRows, 10001, "NUMTQZ ERROR  NUMTQZ,MAX=1000110000"},
+              {&input::NumberOfDisplacements, -1, "NUMDSP ERROR  NUMDSP,MAX=   -1   50"},
+              {&input::NumberOfDisplacements, 50, nullptr},
+              {&input::NumberOfDisplacements, 51, "NUMDSP ERROR  NUMDSP,MAX=   51   50"}};
+  for (const auto& [count, value, message] : rows) {
+    Tervak p = valid_profile(4);
+    for (int n = 1; n <= 50; ++n) data(p).SoilDisplacements.push_back({1.0 * n, 0, 0, 0, 0});
+    data(p).NumberOfDisplacements = 0;
+    data(p).*count = value;
+    expect_log(p, message == nullptr ? "" : refused(std::string("READGE : ") + message));
+  }
+  Tervak p = valid_profile(4);
+  data(p).Diameters.clear();
+  expect_log(p, refused("READGE : NUMDIA ERROR  NUMDIA,MAX=    0   50"));
 }
 
 TEST(READGE, ReplacesSwitchesScalesAndThirdModulus) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -14,10 +13,10 @@
 using Vrsk::Plin::TervakExchange::Tervak;
 using P = Tervak&;
 
-/// A small valid profile of either revision, in kN and m, whose input prints nothing: diameters 1.0 and 1.5,
-/// sea floor at 0, four layers of a metre (clay, clay, clay, sand) or the main layers 3 m of clay in three
-/// layers and 2 m of sand in one.
-inline Tervak valid_profile(int revision) {
+/// The deck of a small valid profile of either revision, in kN and m, whose input prints nothing:
+/// diameters 1.0 and 1.5, sea floor at 0, four layers of a metre (clay, clay, clay, sand) or the main layers
+/// 3 m of clay in three layers and 2 m of sand in one.
+inline std::string valid_deck(int revision) {
   const std::string both =
       "\nGAMWAT 10\nATMPRS 100\nZCYCL 0\nSUSTIF 96\nJPRINT 1\nDIAM 1 1.5\nESOL0 0\nESOL1 0\nPOSAVR 0\nZSEAFL 0\n"
       "ZPWP 0\nGAMPWP 0\nMODIFYPY\n1 4 0 1 1 0 1 1 1\nMODIFYTZ\n1 4 0 1 1 1 1 1\nMODIFYQZ\n1 4 0 1 0 1 1 1\n";
@@ -31,12 +30,15 @@ inline Tervak valid_profile(int revision) {
       "MAINLAYERS\n1 3 18 0 0 0 0 20 50 30 0.02 0.5 700\n2 5 20 2 4 35 0.7 0 0 0 0 0 0\n"
       "SKINFRICTION\n1 0 11 12 13 14 15 16 1 0.9 0.01\n2 1 0 0 0 0 0 0 1 1 0\n"
       "SUBDIVISION\n1 3 3 284 293 293 0\n2 5 1 588 293 293 1 1 2 3 4 5\n";
-  std::istringstream deck("Valid profile\nREVISION " + std::to_string(revision) + both +
-                          (revision == 4 ? soil4 : soil5));
+  return "Valid profile\nREVISION " + std::to_string(revision) + both + (revision == 4 ? soil4 : soil5);
+}
+inline Tervak profile_of(const std::string& text) {
+  std::istringstream deck(text);
   Vrsk::Plin::TervakExchange::TervakMultipleSoilProfiles profiles;
   profiles.Import(deck, "m", "N");
   return profiles.GetSoilProfiles().at(0);
 }
+inline Tervak valid_profile(int revision) { return profile_of(valid_deck(revision)); }
 
 /// A run state in an empty directory of its own; nobody opens the unit of its run log.
 class input_run : public work_directory {
@@ -77,38 +79,4 @@ inline void expect_log(const Tervak& profile, const std::string& log) {
   run.read(profile);
   EXPECT_EQ(run.log(), log);
   EXPECT_EQ(run.cmn.IERR, log.ends_with(INPUT_REPORT) ? 1 : 0) << log;
-}
-
-/// Changes of a valid profile, each with the run log's whole text.
-using change_rows = std::vector<std::pair<void (*)(P p), std::string>>;
-inline void expect_changes(int revision, const change_rows& rows) {
-  for (const auto& [change, log] : rows) {
-    Tervak profile = valid_profile(revision);
-    change(profile);
-    expect_log(profile, log);
-  }
-}
-
-/// A field with values that are refused and values that pass, on both sides of its limits, and the message of
-/// the refused ones, which shows the value by a conversion of printf.
-struct limit_row {
-  void (*set)(P p, double x);
-  std::vector<double> bad, good;
-  std::string message;
-};
-inline void expect_limits(int revision, const std::string& routine, const std::vector<limit_row>& rows) {
-  for (const auto& [set, bad, good, message] : rows) {
-    Tervak profile = valid_profile(revision);
-    for (const double value : bad) {
-      char text[200];
-      std::snprintf(text, sizeof text, message.c_str(), value);
-      set(profile, value);
-      expect_log(profile, refused(routine + " : " + text));
-    }
-    for (const double value : good) {
-      SCOPED_TRACE(message + std::to_string(value));
-      set(profile, value);
-      expect_log(profile, "");
-    }
-  }
 }

@@ -29,7 +29,7 @@ std::string fields(const std::vector<double>& values) {
   return text.str();
 }
 
-TEST(record, FourFieldsALineOfAnUppercaseScientificStream) {
+TEST(Record, FourFieldsALineOfAnUppercaseScientificStream) {
   EXPECT_EQ(record("NONE    ", {}), "NONE    ");
   EXPECT_EQ(record("FOUR    ", {1.0, -2.5, 0.0, -0.0}),
             "FOUR      1.00000000E+00 -2.50000000E+00  0.00000000E+00 -0.00000000E+00\n");
@@ -42,7 +42,7 @@ TEST(record, FourFieldsALineOfAnUppercaseScientificStream) {
   for (const double value : values) EXPECT_EQ(record("", {value}), fields({value}) + "\n");
 }
 
-TEST(record, DateLinesAreOfTwoHalves) {
+TEST(Record, DateLinesAreOfTwoHalves) {
   std::string name = "Tervak    ", version = "7.6.1.2134", date = "19-FEB-2021";
   const auto clock = [](std::time_t now) {
     std::ostringstream line;
@@ -62,7 +62,7 @@ TEST(record, DateLinesAreOfTwoHalves) {
   EXPECT_EQ(text.at(2).size() + text.at(3).size(), 144u);
 }
 
-struct interface_file : output_test {
+struct InterfaceFile : output_test {
   /// The text behind the name of the n-th record of that name, its lines joined.
   std::string written(const std::string& name, int n = 1, bool good = true) {
     EXPECT_EQ(TervakRIFWriter().WriteProfile(cmn, 7), good);
@@ -74,7 +74,7 @@ struct interface_file : output_test {
   }
 };
 
-TEST_F(interface_file, ElasticValuesOfALayer) {
+TEST_F(InterfaceFile, ElasticValuesOfALayer) {
   make_profile({1.0}, 2);
   cmn.SURED(1) = 50.0;
   cmn.SURED(2) = cmn.EPS;
@@ -90,7 +90,7 @@ TEST_F(interface_file, ElasticValuesOfALayer) {
   EXPECT_EQ(get("TERVAK.RIF").find("RVSOI"), std::string::npos);
 }
 
-TEST_F(interface_file, CurveRecordsCarryTheExtremesOfAllSlots) {
+TEST_F(InterfaceFile, CurveRecordsCarryTheExtremesOfAllSlots) {
   make_profile({2.0}, 1);
   cmn.OPEN(1) = 1;
   cmn.NPYPNT(1, 1) = 0;

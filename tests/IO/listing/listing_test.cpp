@@ -20,7 +20,7 @@ struct monopile_curves : Varno::KestraCommonLibrary::CommonData::IMonoPileDataPr
   monopile_curve GetBSYCurve(diameter_number, layer_number) const override { return bsy; }
 };
 
-struct listing : output_test {
+struct Listing : output_test {
   /// The whole listing, printed anew.
   std::string all_pages() {
     cmn.units.close_unit(cmn.NFLIS, nullptr, true);
@@ -30,7 +30,7 @@ struct listing : output_test {
   }
 };
 
-TEST_F(listing, ALayerAtTheLimitsIsStaticClay) {
+TEST_F(Listing, ALayerAtTheLimitsIsStaticClay) {
   make_profile({1.0}, 1);
   cmn.ZCYCL = cmn.ZLAY(1);
   cmn.PHIR(1) = cmn.EPS;
@@ -42,12 +42,12 @@ TEST_F(listing, ALayerAtTheLimitsIsStaticClay) {
   EXPECT_EQ(all_pages().find("DATA TO BE GENERATED"), std::string::npos) << "neither at middle nor at bottom";
 }
 
-TEST_F(listing, CodesThatNoDeckBringsToAPage) {
+TEST_F(Listing, CodesThatNoDeckBringsToAPage) {
   EXPECT_STREQ(PY_label(99), "MANUAL");
   EXPECT_THROW(QZ_label(588), std::out_of_range);
 }
 
-TEST_F(listing, MonopileKindsInOneTableOrEachInTheirs) {
+TEST_F(Listing, MonopileKindsInOneTableOrEachInTheirs) {
   make_profile({1.0}, 1);
   const auto data = std::make_shared<monopile_curves>();
   cmn.MONOPILE = data;

@@ -12,7 +12,7 @@ static bool operator==(const usfos_point& a, const usfos_point& b) { return a.F 
 
 namespace {
 
-TEST(usfos, NumbersRoundTheDiameterWithTwoLimits) {
+TEST(Usfos, NumbersRoundTheDiameterWithTwoLimits) {
   const struct {
     double D;
     int S, L, T, number;
@@ -24,7 +24,7 @@ TEST(usfos, NumbersRoundTheDiameterWithTwoLimits) {
   }
 }
 
-TEST(usfos, ThinningByHand) {
+TEST(Usfos, ThinningByHand) {
   const struct {
     const char* what;
     std::vector<usfos_point> given, kept;
@@ -48,14 +48,14 @@ TEST(usfos, ThinningByHand) {
   for (const auto& row : rows) EXPECT_EQ(usfos_thin(row.given), row.kept) << row.what;
 }
 
-TEST(usfos, ACurveOfNextToNoForceIsNoMaterial) {
+TEST(Usfos, ACurveOfNextToNoForceIsNoMaterial) {
   EXPECT_EQ(usfos_make_material({{0.22, 1.0}, {0.22, 2.0}}, 2.0, 1, 1).number, 0);  // squares of 0.0968
   EXPECT_EQ(usfos_make_material({{0.23, 1.0}, {0.23, 2.0}}, 2.0, 1, 1).number, 2000011);
 }
 
-using usfos_export = output_test;
+using UsfosExport = output_test;
 
-TEST_F(usfos_export, LevelsBelowTheSeaFloorAndSmallFactors) {
+TEST_F(UsfosExport, LevelsBelowTheSeaFloorAndSmallFactors) {
   make_profile({2.0}, 1);
   cmn.ZSEAFL = 5.0;
   cmn.ZBOTM(1) = 7.0;
@@ -66,7 +66,7 @@ TEST_F(usfos_export, LevelsBelowTheSeaFloorAndSmallFactors) {
     EXPECT_NE(printed(9).find(line), std::string::npos) << line;
 }
 
-TEST_F(usfos_export, MaterialsAreRankedAndDuplicatesRefused) {
+TEST_F(UsfosExport, MaterialsAreRankedAndDuplicatesRefused) {
   std::vector<usfos_material> materials;
   for (const int number : {30, -5, 10, 0, -7, 10, 20})
     materials.push_back({number, 2, {4, 0, 0, 0, 0, 0, 0, 0}});
@@ -80,7 +80,7 @@ TEST_F(usfos_export, MaterialsAreRankedAndDuplicatesRefused) {
             " ELPLCURV        30\n ELPLCURV        -7\n ELPLCURV        -5\n");
 }
 
-TEST_F(usfos_export, DiametersThatRoundAlikeFailButTheInterfaceFileIsWritten) {
+TEST_F(UsfosExport, DiametersThatRoundAlikeFailButTheInterfaceFileIsWritten) {
   make_profile({2.0, 2.0004}, 1);
   cmn.RIFWRITER = std::make_shared<Varno::TervakLibrary::IO::TervakRIFWriter>();
   OutputFiles(cmn, 1);
@@ -93,7 +93,7 @@ TEST_F(usfos_export, DiametersThatRoundAlikeFailButTheInterfaceFileIsWritten) {
   EXPECT_NE(get("TERVAK.RIF").find("\nRVSOILTZ"), std::string::npos);
 }
 
-TEST_F(usfos_export, LimitCountsEmptyMaterials) {
+TEST_F(UsfosExport, LimitCountsEmptyMaterials) {
   int IERR = 0;
   G2U_WMAT(cmn, 7, 1, std::vector<usfos_material>(5000), IERR);
   EXPECT_EQ(IERR, 0);
@@ -105,7 +105,7 @@ TEST_F(usfos_export, LimitCountsEmptyMaterials) {
   EXPECT_EQ(printed(8), "\n  *** ERROR IN G2U_WMAT ***\n\n  *** Number of Materials Exceeds Max of 5000\n");
 }
 
-TEST_F(usfos_export, ExceptionOutOfTheExportEndsTheRun) {
+TEST_F(UsfosExport, ExceptionOutOfTheExportEndsTheRun) {
   make_profile({3.0E6}, 1);  // material numbers beyond an int
   try {
     OutputFiles(cmn, 1);
