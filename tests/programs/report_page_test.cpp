@@ -8,7 +8,6 @@
 
 #include "programs/sample_rif.hpp"
 #include "report/layer_picture.hpp"
-#include "report/options.hpp"
 #include "report/page.hpp"
 #include "report/read_interface_file.hpp"
 #include "report/svg_plot.hpp"
@@ -108,32 +107,6 @@ TEST(ReportPicture, DrawsALayer) {
       std::string::npos);
 }
 
-std::string usage_of(const std::vector<std::string>& arguments) {
-  try {
-    const options o = parse_options(arguments);
-    return o.input + " > " + o.output + " " + o.u.of_stress();
-  } catch (const usage_error& error) {
-    return error.what();
-  }
-}
-
-TEST(ReportOptions, CommandLines) {
-  EXPECT_EQ(usage_of({}), "TERVAK.RIF > TERVAK.html run units");
-  EXPECT_EQ(usage_of({"--units", "kN,m", "-o", "x.html", "a.rif"}), "a.rif > x.html kN/m²");
-  EXPECT_EQ(usage_of({"--units=MN,m", "--", "-o"}), "-o > TERVAK.html MN/m²");
-  EXPECT_EQ(usage_of({"--units", "kN"}), "expected two unit names behind '--units', as in kN,m, found 'kN'");
-  EXPECT_EQ(usage_of({"--units=k<,m"}), "expected two unit names behind '--units', as in kN,m, found 'k<,m'");
-  EXPECT_EQ(usage_of({"--svg", "5"}), "TERVAK.RIF > TERVAK.svg run units");
-  EXPECT_EQ(parse_options({"--svg=2/51"}).profile, 2U);
-  EXPECT_EQ(parse_options({"--svg=2/51"}).layer, 51U);
-  for (const std::string text : {"", "0", "2/", "/5", "-1", "2/0", "1/2/3", "12345", "5x"})
-    EXPECT_EQ(usage_of({"--svg", text}),
-              "expected a layer behind '--svg', as in 5, or 2/5 in profile 2, found '" + text + "'");
-  EXPECT_EQ(usage_of({"-o"}), "option '-o' expects a value behind it");
-  EXPECT_EQ(usage_of({"-x"}), "unknown option '-x'");
-  EXPECT_EQ(usage_of({"a", "b"}), "expected one input file, found also 'b'");
-}
-
 /// Runs the program in a directory of its own.
 class ReportProgram : public testing::Test, public work_directory {
  protected:
@@ -161,6 +134,9 @@ TEST_F(ReportProgram, WritesThePage) {
   EXPECT_EQ(run("--help").substr(0, 22), "0 usage: tervak-report");
   EXPECT_EQ(run("--svg 1/3 -o x.svg"), "0 x.svg: profile 1, layer 3\n");
   EXPECT_EQ(get("x.svg").substr(0, 5), "<?xml");
+  EXPECT_EQ(run("--svg 2-3 -o pictures"),
+            "0 pictures/p1-l2.svg: profile 1, layer 2\npictures/p1-l3.svg: profile 1, layer 3\n");
+  EXPECT_EQ(get("pictures/p1-l3.svg"), get("x.svg"));
 }
 
 TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
