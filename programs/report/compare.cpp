@@ -78,7 +78,8 @@ class comparer {
     if (out_.profiles == 0) throw std::runtime_error("the two files have no profile of one name");
     std::stable_sort(found_.begin(), found_.end(), [](const entry& a, const entry& b) {
       if (a.what.order != b.what.order) return a.what.order < b.what.order;
-      return std::abs(a.what.percent) > std::abs(b.what.percent);
+      // Equal changes keep their order although their last bits differ.
+      return std::abs(static_cast<float>(a.what.percent)) > std::abs(static_cast<float>(b.what.percent));
     });
     std::vector<bool> taken(places_.size());
     for (entry& e : found_) {

@@ -31,12 +31,16 @@ std::optional<double> greatest_change(const curve& a, const curve& b, bool monop
   if (points_before_filler(b, monopile) != std::pair(from, to)) return std::nullopt;
   if (monopile && is_absent(a) && is_absent(b)) return 0.0;
   double greatest = 0.0;
-  for (std::size_t i = from; i < to; ++i) {
-    const double peak = std::abs(side_peak(a, a[i].displacement < 0.0 ? -1 : 1));
-    const double stress = std::abs(b[i].stress - a[i].stress);
-    const double way = std::abs(b[i].displacement - a[i].displacement);
-    if (stress > 0.0) greatest = std::max(greatest, stress / peak);
-    if (way > 0.0) greatest = std::max(greatest, way / std::abs(a[i].displacement));
+  for (const int side : {1, -1}) {
+    const double peak = std::abs(side_peak(a, side)), end = shape_end(a, side);
+    for (const std::size_t i : outward(a, side)) {
+      if (i < from || i >= to) continue;
+      const double stress = std::abs(b[i].stress - a[i].stress);
+      const double way = std::abs(b[i].displacement - a[i].displacement);
+      if (stress > 0.0) greatest = std::max(greatest, stress / peak);
+      if (way > 0.0 && std::abs(a[i].displacement) <= end)
+        greatest = std::max(greatest, way / std::abs(a[i].displacement));
+    }
   }
   return 100.0 * greatest;
 }

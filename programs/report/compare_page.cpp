@@ -16,6 +16,7 @@ constexpr std::string_view compare_style = R"css(
 body { font: 14px/1.45 "Liberation Sans", Arial, Helvetica, sans-serif; max-width: 1280px; margin: 0 auto; padding: 20px; }
 h1 { font-size: 22px; }
 h2 { font-size: 15px; margin: 24px 0 4px; }
+figure { margin: 0; }
 .table { overflow-x: auto; }
 table { border-collapse: collapse; font-size: 12px; font-variant-numeric: tabular-nums; }
 th, td { padding: 1px 8px; text-align: left; white-space: nowrap; border-bottom: 1px solid #ddd; }
@@ -68,7 +69,8 @@ std::string panel(const curve& a, const curve& b, curve_kind kind, const curve_v
   const double room = 0.08 * (most - least);
   drawing.x = make_axis(low, high, view.x.title, curve_box.across());
   drawing.y = make_axis(least - room, most + room, view.y.title);
-  return "<figure>" + svg(drawing) + "</figure>\n";
+  return "<figure><figcaption>" + std::string(words_of(kind).name) + "</figcaption>" + svg(drawing) +
+         "</figure>\n";
 }
 
 std::string section(const interface_file& before, const interface_file& after, const changed_layer& at,
