@@ -87,7 +87,7 @@ class comparer {
         out_.changed.push_back(places_[e.place]);
         taken[e.place] = true;
       }
-      out_.differences.push_back(std::move(e.what));
+      if (!continues_codes(e)) out_.differences.push_back(std::move(e.what));
     }
     return std::move(out_);
   }
@@ -96,14 +96,36 @@ class comparer {
   struct entry {
     difference what;
     std::size_t place = none;  // index in places_
+    std::size_t layer = none;
   };
+  /// A row of one change of code in layers one below the other, and how it began.
+  struct code_row {
+    std::size_t row = 0, last = 0;
+    std::string layer, level;
+  };
+
+  /// Draws a change of code into the row of the layer above, if that has the same.
+  bool continues_codes(const entry& e) {
+    if (e.what.order != difference_class::code || !e.what.diameter.empty()) return false;
+    const std::string key = join({e.what.profile, "\n", e.what.what, e.what.before, "\n", e.what.after});
+    const auto there = code_rows_.find(key);
+    if (there == code_rows_.end() || there->second.last + 1 != e.layer) {
+      code_rows_[key] = {out_.differences.size(), e.layer, e.what.layer, e.what.level};
+      return false;
+    }
+    there->second.last = e.layer;
+    difference& row = out_.differences[there->second.row];
+    row.layer = there->second.layer + " to " + e.what.layer;
+    row.level = there->second.level + " to " + e.what.level;
+    return true;
+  }
 
   void add(difference d, std::size_t place = none) {
     d.profile = at_.profile;
     d.layer = at_.layer;
     d.level = at_.level;
     d.diameter = at_.diameter;
-    found_.push_back({std::move(d), place});
+    found_.push_back({std::move(d), place, layer_});
   }
 
   void add_one_sided(const std::string& what, bool in_before) {
@@ -141,6 +163,7 @@ class comparer {
     at_.layer = number;
     at_.level = number_text(in_before ? p.layers[m.first].ZBOTM : q.layers[m.second].ZBOTM);
     if (m.first == none || m.second == none) return add_one_sided("layer", in_before);
+    layer_ = m.first;
     if (m.first != m.second) at_.layer += ", now " + std::to_string(m.second + 1);
     ++out_.layers;
     const layer &a = p.layers[m.first], &b = q.layers[m.second];
@@ -220,7 +243,9 @@ class comparer {
   const interface_file& before_;
   const interface_file& after_;
   difference at_;  // the place of what is being compared
+  std::size_t layer_ = none;
   std::vector<match> diameters_;
+  std::map<std::string, code_row> code_rows_;
   std::vector<changed_layer> places_;
   std::vector<entry> found_;
   comparison out_;

@@ -17,7 +17,7 @@ struct difference {
   difference_class order = difference_class::number;
   double percent = 0.0;       // of the number before; 0 for the other classes
   std::string profile = {};   // name, and which of several of that name
-  std::string layer = {};     // "5", or "5, now 6"
+  std::string layer = {};     // "5", "5, now 6"; of a code "5 to 9"
   std::string level = {};     // ZBOTM
   std::string diameter = {};  // empty for what is of the layer
   std::string what = {};

@@ -58,6 +58,20 @@ TEST(Compare, OrdersChanges) {
             "+0.29 %|B (2)|2|friction angle|34.5|34.6\n");
 }
 
+TEST(Compare, DrawsOneCodeTogether) {
+  EXPECT_EQ(changes([](interface_file& f) {
+              for (profile& p : f.profiles)
+                for (layer& l : p.layers) l.tz_code = l.qz_code = 214;
+              f.profiles[1].layers[1].tz_code = 0;
+            }),
+            "other|B|1 to 3|T-Z code|293 (API-93)|214 (API-2014)\n"
+            "other|B|1 to 3|Q-Z code|293 (API-93)|214 (API-2014)\n"
+            "other|B (2)|1|T-Z code|293 (API-93)|214 (API-2014)\n"
+            "other|B (2)|1 to 3|Q-Z code|293 (API-93)|214 (API-2014)\n"
+            "other|B (2)|2|T-Z code|293 (API-93)|0 (MANUAL)\n"
+            "other|B (2)|3|T-Z code|293 (API-93)|214 (API-2014)\n");
+}
+
 TEST(Compare, Tolerates) {
   EXPECT_EQ(changes([](interface_file&) {}, 0.0), "");
   const auto within = [](interface_file& f) {
