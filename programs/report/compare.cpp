@@ -18,7 +18,7 @@ constexpr std::size_t none = static_cast<std::size_t>(-1);
 using match = std::pair<std::size_t, std::size_t>;
 
 std::string display_name(const profile& p, int occurrence) {
-  const std::string name = p.name.empty() ? "without name" : p.name;
+  const std::string name = p.name.empty() ? "without name" : as_utf8(p.name);
   return occurrence == 1 ? name : name + " (" + std::to_string(occurrence) + ")";
 }
 

@@ -1,6 +1,7 @@
 #include "report/csv_tables.hpp"
 
-#include <array>
+#include <algorithm>
+#include <cmath>
 #include <initializer_list>
 
 #include "report/axial_capacity.hpp"
@@ -148,7 +149,9 @@ std::string units_table(const units& u, bool monopile) {
 
 }  // namespace
 
-std::string calculated_text(double value) { return rounded_text(value, file_digits); }
+std::string calculated_text(double value) {
+  return std::isfinite(value) ? rounded_text(value, file_digits) : std::string();
+}
 
 std::vector<csv_file> csv_files(const interface_file& file, const deck_beside& deck,
                                 const table_choice& choice) {

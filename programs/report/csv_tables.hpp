@@ -27,7 +27,8 @@ struct csv_file {
 std::vector<csv_file> csv_files(const interface_file& file, const deck_beside& deck,
                                 const table_choice& choice);
 
-/// A value that was calculated, with the nine digits of the interface file.
+/// A value that was calculated, with the nine digits of the interface file; empty when it went beyond the
+/// range of numbers, as products of those of a foreign file may.
 std::string calculated_text(double value);
 
 }  // namespace tervak::report

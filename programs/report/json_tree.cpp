@@ -38,7 +38,8 @@ std::string values(std::size_t from, std::size_t to, Make item) {
 }
 
 std::string optional_value(const std::optional<double>& value) {
-  return value ? calculated_text(*value) : "null";
+  const std::string text = value ? calculated_text(*value) : "";
+  return text.empty() ? "null" : text;
 }
 
 std::string curve_object(const profile& p, const layer& l, std::size_t d, curve_kind kind, bool all_points) {
@@ -54,7 +55,7 @@ std::string curve_object(const profile& p, const layer& l, std::size_t d, curve_
        {"displacement", values(from, to, [&](std::size_t n) { return number_text(c[n].displacement); })},
        {"stress", values(from, to, [&](std::size_t n) { return number_text(c[n].stress); })},
        {"force_per_length", kind != curve_kind::py ? "null" : values(from, to, [&](std::size_t n) {
-          return calculated_text(c[n].stress * diameter);
+          return optional_value(c[n].stress * diameter);
         })}});
 }
 

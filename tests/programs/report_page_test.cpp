@@ -171,5 +171,44 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
   EXPECT_EQ(files(), 5U);
 }
 
+TEST_F(ReportProgram, WritesTablesWholeOrNotAtAll) {
+  const std::string from = "Capacity counts from the sea floor. No deck TERVAK.INP is beside the file.\n";
+  EXPECT_EQ(run("--csv a/b --json x.json"),
+            "0 a/b/layers.csv: records 3\na/b/curves.csv: records 198\na/b/capacity.csv: records 6\n"
+            "x.json: profiles 1\n" +
+                from);
+  const std::string old = get("a/b/curves.csv");
+  EXPECT_EQ(run("--csv a/b --all-points", "trap '' XFSZ; ulimit -f 8; "),
+            "1 tervak-report: a/b/curves.csv: cannot be written: File too large\n");
+  EXPECT_EQ(get("a/b/curves.csv"), old);
+  put("a/b/units.csv", "of before");
+  EXPECT_NE(run("--csv a/b").find("a/b/units.csv: not of this file, it was there before\n"),
+            std::string::npos);
+  fs::create_hard_link("TERVAK.RIF", "a/layers.csv");
+  EXPECT_EQ(run("--csv a").substr(0, 50), "2 tervak-report: 'a/layers.csv' is the input: the ");
+  EXPECT_EQ(run("--csv x.json"), "1 tervak-report: x.json: something other than a directory stands there\n");
+  put("bad.rif", get("TERVAK.RIF").substr(0, 5000));
+  EXPECT_EQ(run("--csv none bad.rif").substr(0, 25), "1 tervak-report: bad.rif:");
+  EXPECT_FALSE(fs::exists("none"));
+  EXPECT_EQ(run("--version").substr(0, 18), "0 tervak-report 0.");
+}
+
+TEST_F(ReportProgram, ComparesWithAStatus) {
+  put("four.rif", sample::rif({1, 4, 2}));
+  EXPECT_EQ(run("--compare TERVAK.RIF TERVAK.RIF"),
+            "0 TERVAK.RIF, TERVAK.RIF: alike (tolerance 0.1 %); compared profiles 1, layers 3, curves 18\n");
+  EXPECT_EQ(
+      run("--compare TERVAK.RIF four.rif -o x.html"),
+      "1 TERVAK.RIF, four.rif: differences 1 (tolerance 0.1 %); compared profiles 1, layers 3, curves 18\n"
+      "change    profile   layer  ZBOTM  diameter  what   before  after\n"
+      "one file  BORING-1  4      4                layer  none    there\n");
+  EXPECT_EQ(get("x.html").substr(0, 15), "<!DOCTYPE html>");
+  EXPECT_EQ(run("--compare TERVAK.RIF none"),
+            "2 tervak-report: none: cannot be opened: No such file or directory\n");
+  EXPECT_EQ(run("--compare TERVAK.RIF four.rif -o four.rif").substr(0, 18), "2 tervak-report: '");
+  EXPECT_EQ(run("--compare TERVAK.RIF").substr(0, 18), "2 tervak-report: e");
+  EXPECT_EQ(get("four.rif"), sample::rif({1, 4, 2}));
+}
+
 }  // namespace
 }  // namespace tervak::report
