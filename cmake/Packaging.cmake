@@ -4,8 +4,7 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(tervak_executable ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 
-install(TARGETS tervak tervak-report RUNTIME)
-install(PROGRAMS programs/tervak-run TYPE BIN)
+install(TARGETS tervak tervak-report tervak-run RUNTIME)
 
 # Manual pages, without a time stamp in them.
 find_program(GZIP_EXECUTABLE gzip REQUIRED)

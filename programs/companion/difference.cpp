@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "companion/masks.hpp"
+#include "companion/shown.hpp"
 
 namespace tervak::companion {
 
@@ -17,16 +18,7 @@ std::string_view line_around(std::string_view text, std::size_t begin) {
 
 std::string excerpt(std::string_view text) {
   constexpr std::size_t SHOWN = 40;
-  constexpr char DIGITS[] = "0123456789abcdef";
-  std::string out = "\"";
-  for (const char c : text.substr(0, SHOWN)) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte >= ' ' && byte != 0x7f)
-      out += c;
-    else
-      out.append("\\x") += {DIGITS[byte / 16], DIGITS[byte % 16]};
-  }
-  return out + (text.size() > SHOWN ? "...\"" : "\"");
+  return '"' + shown(text.substr(0, SHOWN)) + (text.size() > SHOWN ? "...\"" : "\"");
 }
 
 std::string difference(std::string_view file_name, std::string_view found, std::string_view expected) {

@@ -17,6 +17,8 @@ class file_lock {
   [[nodiscard]] bool held() const { return held_; }
   /// Another process holds it.
   [[nodiscard]] bool taken() const { return taken_; }
+  /// The file could be opened.
+  [[nodiscard]] bool opened() const { return handle_ >= 0; }
   /// Why it is neither held nor taken: the file cannot be opened, or its file system knows no locks.
   [[nodiscard]] const std::string& failure() const { return failure_; }
 

@@ -11,6 +11,8 @@ enum class file_kind { absent, regular, directory, link, other };
 
 /// Throws std::runtime_error where that cannot be found out.
 file_kind kind_of(const std::filesystem::path& file);
+/// "a link", "a directory" and so on.
+const char* text_of(file_kind kind);
 
 /// All bytes of a regular file, or of the regular file that a link leads to. Does not wait for a FIFO. Throws
 /// std::runtime_error, whose text gives the name and the reason.

@@ -62,6 +62,22 @@ file_kind kind_of(const fs::path& file) {
   return S_ISLNK(information.st_mode) ? file_kind::link : file_kind::other;
 }
 
+const char* text_of(file_kind kind) {
+  switch (kind) {
+    case file_kind::absent:
+      return "no file";
+    case file_kind::regular:
+      return "a file";
+    case file_kind::directory:
+      return "a directory";
+    case file_kind::link:
+      return "a link";
+    case file_kind::other:
+      break;
+  }
+  return "neither a file nor a directory";
+}
+
 std::string read_file(const fs::path& file) {
   const handle in(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
   if (in.number() < 0) fail(file, "cannot be opened", errno);
