@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "BlockKeeper/ExhaustedMemory.hpp"
 #include "companion/shown.hpp"
 #include "Platform/file_lock.hpp"
 #include "Platform/files.hpp"
@@ -23,6 +24,8 @@ using namespace tervak;
 using companion::shown;
 
 constexpr int GOOD = 0, NOT_GOOD = 1, NOT_STARTED = 2;
+
+[[gnu::init_priority(101)]] const BlockKeeper::ExhaustedMemory<NOT_GOOD> exhausted_memory;
 
 void make_directory(const fs::path& directory) {
   std::error_code error;

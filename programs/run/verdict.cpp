@@ -63,9 +63,12 @@ bool is_good(const run_facts& facts) {
 }
 
 std::string verdict(const run_facts& facts) {
-  std::string text;
-  if (facts.end.failure.empty()) text += "result files:\n" + text_of(facts.results);
-  if (!is_good(facts)) return text + "The run is not good: " + reason(facts) + '\n';
+  if (!is_good(facts)) {
+    const std::string files = facts.end.failure.empty() ? "result files:\n" + text_of(facts.results) : "";
+    return files + "The run is not good: " + reason(facts) + '\n';
+  }
+  std::string text = "result files, all whole:\n";
+  for (const char* const name : companion::RUN_FILES) text.append("  ").append(name) += '\n';
   text += "The run is good";
   if (facts.warnings > 0)
     text += "; " + std::to_string(facts.warnings) + (facts.warnings == 1 ? " warning" : " warnings");

@@ -1,7 +1,14 @@
 #include <memory>
 
+#include "BlockKeeper/ExhaustedMemory.hpp"
 #include "Control/common.hpp"
 #include "Control/CONTRL.hpp"
+
+namespace {
+
+[[gnu::init_priority(101)]] const BlockKeeper::ExhaustedMemory<255> exhausted_memory;  // -1
+
+}  // namespace
 
 /// No arguments and no environment: everything lies in the current directory.
 int main() {
