@@ -35,6 +35,8 @@ class deck_table {
   /// Reads a row and appends its record; a row with a fault appends none. True when the row closes its list,
   /// as a row with L1 = 0 does in the lists of P-Y, T-Z and Q-Z factors.
   virtual bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const = 0;
+  /// The number of a column by its name, from 0; the number of columns when there is none of that name.
+  [[nodiscard]] virtual std::size_t find_column(std::string_view column) const = 0;
 
  private:
   std::string_view name_;
@@ -61,6 +63,11 @@ class deck_table_of final : public deck_table {
   }
 
   bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const override;
+  [[nodiscard]] std::size_t find_column(std::string_view column) const override {
+    std::size_t i = 0;
+    while (i < columns_.size() && columns_[i].name != column) ++i;
+    return i;
+  }
 
  private:
   bool read_field(std::size_t i, const deck_field& field, R& record, deck_faults& faults) const;
