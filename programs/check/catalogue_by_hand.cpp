@@ -10,8 +10,9 @@ const std::vector<known_message> CURVES_GIVEN_BY_HAND_FACTORS_SOIL_DISPLACEMENTS
      "|**** SR/READG3 : MANUAL Q-Z LAYER SEQUENCE  NL,LAY %i %i",
      "ends, 1",
      "`MANUALPY`, `MANUALTZ`, `MANUALQZ`: the next curve should be for calculation layer NL, its `AT` "
-     "names LAY. There is one curve for each diameter of each layer of code 0, from the top: count "
-     "calculation layers, not main layers, and look for a missing or surplus curve above",
+     "names LAY. There is one curve for each diameter of each layer of code 0, from the top: the curves "
+     "are out of order, or, with pile nodes, one is missing or too many above. `AT M1 1.2` saves counting where "
+     "the subdivision is by counts",
      "MANUALPY@2 MANUALPY|MANUALTZ@2 MANUALTZ|MANUALQZ@2 MANUALQZ"},
     {"**** SR/READG3 : MANUAL P-Y DIAMETER  NL,DIA= %i %x"
      "|**** SR/READG3 : MANUAL T-Z DIAMETER  NL,DIA= %i %x"
@@ -35,18 +36,12 @@ const std::vector<known_message> CURVES_GIVEN_BY_HAND_FACTORS_SOIL_DISPLACEMENTS
      "displacements do not ascend. Layer, and two neighbouring displacements: with three decimals "
      "they may look alike",
      "MANUALPY@1|MANUALTZ@1|MANUALQZ@1"},
-    {"**** SR/READG3 : MANUAL P-Y CURVE NOT USED  NUM,LAY,DIA= %i %i %x"
-     "|**** SR/READG3 : MANUAL T-Z CURVE NOT USED  NUM,LAY,DIA= %i %i %x"
-     "|**** SR/READG3 : MANUAL Q-Z CURVE NOT USED  NUM,LAY,DIA= %i %i %x",
-     "ends, 1",
-     "the curve number NUM of `MANUALPY`, `MANUALTZ`, `MANUALQZ` is one too many: every diameter of "
-     "every layer of code 0 has its curve already. Its `AT` names LAY and DIA",
-     "MANUALPY#1|MANUALTZ#1|MANUALQZ#1"},
     {"**** SR/READG3 : P-Y MODIF LAYER SEQUENCE ERROR\nNOW,L1,L2,LAST1,LAST2= %i %i %i %i %i"
      "|**** SR/READG3 : T-Z MODIF LAYER SEQUENCE ERROR\nNOW,L1,L2,LAST1,LAST2= %i %i %i %i %i"
      "|**** SR/READG3 : Q-Z MODIF LAYER SEQUENCE ERROR\nNOW,L1,L2,LAST1,LAST2= %i %i %i %i %i",
      "ends, 1",
-     "row NOW of `MODIFYPY`, `MODIFYTZ`, `MODIFYQZ`: the first row does not begin with layer 1, or "
+     "row NOW of `MODIFYPY`, `MODIFYTZ`, `MODIFYQZ`: the first row does not begin with layer 1 (rows "
+     "with main layers, `M2 M3`, need not), or "
      "`L1` is above `L2`, or a row for the same diameter does not lie below the row before it (LAST1, "
      "LAST2)",
      "MODIFYPY#1.L1 MODIFYPY#1.L2|MODIFYTZ#1.L1 MODIFYTZ#1.L2|MODIFYQZ#1.L1 MODIFYQZ#1.L2"},
@@ -79,13 +74,6 @@ const std::vector<known_message> CURVES_GIVEN_BY_HAND_FACTORS_SOIL_DISPLACEMENTS
      "a row of `MODIFYQZ` has `QZFNEG` above zero: pile tips take tension. Make sure that this is "
      "meant",
      "MODIFYQZ.QZFNEG>0"},
-    {"**** SR/READG3 : P-Y MODIF ROW NOT USED  NOW,L1,L2= %i %i %i"
-     "|**** SR/READG3 : T-Z MODIF ROW NOT USED  NOW,L1,L2= %i %i %i"
-     "|**** SR/READG3 : Q-Z MODIF ROW NOT USED  NOW,L1,L2= %i %i %i",
-     "ends, 1",
-     "row NOW of `MODIFYPY`, `MODIFYTZ`, `MODIFYQZ` stands after a row that reaches the last layer "
-     "for the last diameter or for all, which ends the list. Put the rows in the order of `DIAM`",
-     "MODIFYPY#1.L1|MODIFYTZ#1.L1|MODIFYQZ#1.L1"},
     {"**** SR/READG3 : GIVEN SOIL DISPL SEQUENCE ERROR\nN,ZLAST,ZNOW= %i %x %x", "ends, 1",
      "`DISPLACEMENTS`: `DSPLEV` of row N does not lie below the row before it", "DISPLACEMENTS#1.DSPLEV"},
     {"**** SR/READG3 : HOLE DIAM   N,HOLDIA= %i %x", "ends, 1",

@@ -11,16 +11,12 @@ namespace tervak::check {
 
 namespace {
 
-constexpr int NOTHING = 0, WARNINGS = 1, UNKNOWN_MESSAGE = 1, FAULTS = 2, UNREADABLE = 2;
+constexpr int NOTHING = 0, WARNINGS = 1, UNKNOWN_MESSAGE = 1, FAULTS = 2;
 
 int explain_log(const options& o, std::ostream& out) {
   const std::string log = os::read_file(o.log);
+  static_cast<void>(os::read_file(o.deck));  // throws; a deck that is refused still has its lines
   const auto deck = read_deck(o.deck);
-  // A deck that is refused still has its lines, one that cannot be opened has none.
-  if (deck->line_count() == 0) {
-    out << deck->refusal("\n") << '\n';
-    return UNREADABLE;
-  }
   const explained_log explained = explain(log, *deck);
   for (const explanation& message : explained.messages) out << message.text(*deck) << '\n';
   return explained.complete ? NOTHING : UNKNOWN_MESSAGE;

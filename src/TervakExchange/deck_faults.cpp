@@ -24,6 +24,10 @@ std::string printable(std::string_view text) {
   return result;
 }
 
+bool stands_before(const deck_place& a, const deck_place& b) {
+  return std::tie(a.line, a.column) < std::tie(b.line, b.column);
+}
+
 }  // namespace
 
 std::string shown(std::string_view text) {
@@ -38,10 +42,15 @@ void deck_faults::add(const deck_place& place, std::string text) {
   if (faults_.size() >= 2 * MAX_FAULTS) drop_beyond_limit();
 }
 
+bool deck_faults::shows(const deck_place& place) const {
+  const auto before = std::count_if(faults_.begin(), faults_.end(),
+                                    [&](const fault& f) { return !stands_before(place, f.place); });
+  return before < static_cast<std::ptrdiff_t>(MAX_FAULTS);
+}
+
 void deck_faults::drop_beyond_limit() {
-  std::stable_sort(faults_.begin(), faults_.end(), [](const fault& a, const fault& b) {
-    return std::tie(a.place.line, a.place.column) < std::tie(b.place.line, b.place.column);
-  });
+  std::stable_sort(faults_.begin(), faults_.end(),
+                   [](const fault& a, const fault& b) { return stands_before(a.place, b.place); });
   if (faults_.size() > MAX_FAULTS) faults_.erase(faults_.begin() + MAX_FAULTS, faults_.end());
 }
 

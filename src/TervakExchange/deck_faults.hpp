@@ -27,6 +27,8 @@ class deck_faults {
 
   void add(const deck_place& place, std::string text);
   [[nodiscard]] std::size_t count() const { return count_; }
+  /// Whether a fault at this place would be among those whose text is shown, as far as is known by now.
+  [[nodiscard]] bool shows(const deck_place& place) const;
   /// The refusal: the first 20 faults, then the number of the others.
   [[nodiscard]] std::string text(std::string_view line_end = RECORD_END) const;
   /// A text about a place, in the form of a fault.

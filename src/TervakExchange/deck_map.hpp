@@ -10,7 +10,7 @@ namespace Vrsk::Plin::TervakExchange {
 /// How a record of a table came to be.
 enum class record_kind {
   written,   ///< it is a row, or a curve, of the deck
-  expanded,  ///< it is one of several that one row makes, or it is in another place than its row
+  expanded,  ///< it is one of those that an AT line with a main layer makes
   added,     ///< the reader put it in front of the row, for the layers above it
 };
 

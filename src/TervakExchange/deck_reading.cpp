@@ -6,6 +6,7 @@
 #include <cstring>
 #include <fstream>
 
+#include "TervakExchange/layer_rows.hpp"
 #include "TervakExchange/profile_checks.hpp"
 
 namespace Vrsk::Plin::TervakExchange {
@@ -34,6 +35,17 @@ std::string why_unopened(const std::string& name) {
          (again.is_open() || errno == 0 ? "its stream has failed" : std::strerror(errno));
 }
 
+/// Two bytes a character: by its mark, or by every second byte of the beginning being zero.
+bool is_utf16(std::string_view text) {
+  if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) return true;
+  std::size_t zeros[2] = {0, 0};
+  const std::size_t looked_at = std::min<std::size_t>(text.size(), 1000) / 2 * 2;
+  for (std::size_t i = 0; i < looked_at; ++i)
+    if (text[i] == '\0') ++zeros[i % 2];
+  const std::size_t most = std::max(zeros[0], zeros[1]), least = std::min(zeros[0], zeros[1]);
+  return least == 0 && 4 * most > looked_at;
+}
+
 }  // namespace
 
 deck_reading::deck_reading(std::istream& stream, std::string_view file_name)
@@ -54,6 +66,12 @@ void deck_reading::read_text(std::istream& stream, std::string_view file_name) {
   if (stream.bad())  // a directory, say, opens but cannot be read
     faults_.add({}, std::string("cannot read the deck: ") +
                         (errno == 0 ? "its stream has failed" : std::strerror(errno)));
+  if (text_.starts_with("\xEF\xBB\xBF")) text_.erase(0, 3);
+  if (faults_.count() > 0) return;
+  if (is_utf16(text_))
+    faults_.add({},
+                "the deck is written in UTF-16, two bytes a character; save it as plain text in UTF-8 (or "
+                "ANSI), in the editor by \"Save as\" and the encoding");
   else if (text_.empty())
     faults_.add({}, "the deck is empty, expected the heading of a profile");
 }
@@ -65,6 +83,7 @@ void deck_reading::read_profiles() {
   for (const profile_lines& range : ranges) {
     profile_draft draft = profile_reader(lines_, range, faults_).read();
     check_profile(draft, faults_);
+    expand_layers(draft, lines_, faults_);
     complete_profile(draft);
     if (faults_.count() > 0) continue;
     profiles_.push_back(std::move(draft.profile));

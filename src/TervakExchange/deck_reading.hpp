@@ -52,8 +52,6 @@ class deck_reading {
   /// The row of record number `record` of a table, which counts from 1 as the stages do. Without fields when
   /// there is no such record, and for the record that closes a list of factors.
   [[nodiscard]] deck_row row(const profile_map& profile, std::string_view table, std::size_t record) const;
-  /// None in a deck that cannot be opened or read.
-  [[nodiscard]] std::size_t line_count() const { return lines_.size(); }
   /// A line of the deck, from 1, with its fields.
   [[nodiscard]] deck_statement line(std::size_t number) const {
     return split_fields(lines_[number - 1], number);

@@ -159,7 +159,7 @@ void check_profile(const profile_draft& draft, deck_faults& faults) {
     return faults.add({draft.map.heading, 1, 1}, draft.title() +
                                                      " has nothing behind its heading; at the end of a "
                                                      "deck stands END, and no text behind it");
-  check_missing(draft, faults);
+  if (!draft.any_meant) check_missing(draft, faults);
   check_counts(draft, faults);
   check_layer_count(draft, faults);
   check_curves(draft, faults);

@@ -77,13 +77,14 @@ void profile_reader::refuse_missing_heading() {
 void profile_reader::read_line(const deck_statement& line) {
   behind_unknown_ = std::exchange(unknown_, false);
   const char first = line.fields[0].text.front();
+  if (is_main_layer(line.fields[0].text) && takes_main_layers()) return read_row(line);
   if (is_letter(first)) return read_keyword(line);
   if (opens_number(first)) return read_row(line);
   const deck_field& word = line.fields[0];
   const std::string_view character = first_character(word.text);
   std::string text = "a line cannot begin with " + shown(character);
   if (first == '*') text += "; a comment has its * in column 1";
-  if (!comma_hint(word.text).empty()) text += comma_hint(word.text);
+  text += comma_hint(word.text).empty() ? ascii_hint(character) : comma_hint(word.text);
   faults_.add({word.place.line, word.place.column, character.size()}, std::move(text));
   unknown_ = true;
   // Without that character it may be a keyword, or a row.
@@ -141,18 +142,23 @@ void profile_reader::read_unknown(const deck_statement& line) {
   const deck_field& word = line.fields[0];
   std::string text = "unknown keyword " + shown(word.text);
   const bool at = in_curves() && same_word(word.text.substr(0, 2), "AT");
-  const nearest_keyword nearest = at ? nearest_keyword{} : find_nearest(word.text, draft_.profile.version);
+  // A deck may have a million such lines, and the search is long: it is made where the fault is shown.
+  const bool sought = faults_.shows(word.place);
+  const nearest_keyword nearest =
+      at || !sought ? nearest_keyword{} : find_nearest(word.text, draft_.profile.version);
+  if (!at && !sought) draft_.any_meant = true;
   if (!comma_hint(word.text).empty())
     text += comma_hint(word.text);
   else if (at || nearest.sure ||
            (nearest.keyword && (line.fields.size() < 2 || opens_number(line.fields[1].text.front()))))
     text += "; did you mean " + std::string(at ? "AT" : nearest.keyword->name) + "?";
+  text += ascii_hint(word.text);
   // One mistake, one fault: what the word means is not missing too, and the rows behind it are passed over.
   if (nearest.sure) draft_.use(*nearest.keyword).meant = true;
   if (rows_ == rows::read || rows_ == rows::before_at) {
     interrupted_ = open_;
     // A row that begins with a letter, or a misspelt AT, and no keyword
-    if (at || (!nearest.sure && line.fields.size() > 2)) lose_rows();
+    if (at || !sought || (!nearest.sure && line.fields.size() > 2)) lose_rows();
   }
   rows_ = rows::passed_over;
   unknown_ = true;
