@@ -1,42 +1,38 @@
 #include "run/findings.hpp"
 
-#include <string_view>
-
-#include "companion/shown.hpp"
+#include <sstream>
 
 namespace tervak::run {
 
 namespace {
 
-bool is_warning(std::string_view line) {
-  return line.find("WARNING") != std::string_view::npos || line.find("Warning") != std::string_view::npos;
-}
+using check::message_kind;
 
-bool begins_message(std::string_view line) {
-  return line.starts_with(" ****") || line.starts_with(" ----") || is_warning(line) ||
-         line.starts_with("tervak.inp:");
-}
-
-bool ends_message(std::string_view line) {
-  return line.find_first_not_of(' ') == std::string_view::npos || line.starts_with(" +++") ||
-         line.starts_with(" NORMAL EXIT") || line.starts_with(" ERROR EXIT");
+check::deck_reading reading(const std::string& bytes, const std::string& name) {
+  std::istringstream stream(bytes);
+  return check::deck_reading(stream, name);
 }
 
 }  // namespace
 
-findings findings_of_log(const std::string& log) {
+deck_findings::deck_findings(const std::string& bytes, const std::string& name)
+    : deck_(reading(bytes, name)), report_(check::check_deck(deck_)) {}
+
+findings deck_findings::of_deck() const {
+  if (refused()) return {report_.faults + '\n', 0};
   findings found;
-  bool told = false;
-  for (std::string_view rest = log; !rest.empty();) {
-    std::string_view line = rest.substr(0, rest.find('\n'));
-    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    const bool begins = begins_message(line);
-    told = begins || (told && !ends_message(line));
-    if (!told) continue;
-    if (begins && is_warning(line)) ++found.warnings;
-    line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-    found.text += "  " + companion::shown(line) + '\n';
+  for (const check::warning& warning : report_.warnings) found.text += warning.text + '\n';
+  found.warnings = report_.warnings.size();
+  return found;
+}
+
+findings deck_findings::of_log(std::string_view log) const {
+  findings found;
+  for (const check::explanation& message : check::explain(log, deck_).messages) {
+    if (message.kind == message_kind::news || (message.kind == message_kind::refusal && refused())) continue;
+    if (check::told_by(message, report_.warnings)) continue;
+    if (message.kind == message_kind::warning) ++found.warnings;
+    found.text += message.text(deck_) + '\n';
   }
   return found;
 }

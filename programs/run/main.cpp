@@ -48,15 +48,19 @@ void show(const std::string& heading, const run::findings& found) {
   if (!found.text.empty()) std::cout << heading << '\n' << found.text << std::flush;
 }
 
-int make_run(const fs::path& program, const fs::path& directory) {
+int make_run(const fs::path& program, const fs::path& directory, const run::deck_findings& deck) {
+  const run::findings of_deck = deck.of_deck();
+  show(deck.refused() ? "faults of the deck:" : "warnings of the deck:", of_deck);
   const run::log_file log(directory);
   run::run_facts facts;
   facts.directory = directory;
   facts.end = os::run_program(program, directory);
   facts.log = log.read();
-  const run::findings of_log = run::findings_of_log(facts.log);
-  facts.warnings = of_log.warnings;
-  show("warnings and errors of the run log:", of_log);
+  if (!facts.log.empty()) {
+    const run::findings of_log = deck.of_log(facts.log);
+    show("warnings and errors of the run log:", of_log);
+    facts.warnings = of_deck.warnings + of_log.warnings;
+  }
   if (facts.end.failure.empty()) facts.results = companion::results_of(directory, program);
   std::cout << verdict(facts);
   return is_good(facts) ? GOOD : NOT_GOOD;
@@ -84,7 +88,7 @@ void run_deck(const run::options& o, int& status) {
     std::cout << "pile nodes: PILEPLOT.TXT of this directory; none lies beside the deck\n";
   std::cout << std::flush;
   status = NOT_GOOD;
-  const int found = make_run(program, directory);
+  const int found = make_run(program, directory, run::deck_findings(files.deck(), shown(o.deck)));
   if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
   status = found;
 }

@@ -21,15 +21,6 @@ bool whole(const run_facts& facts, std::string_view name) {
       [&](const companion::file_state& file) { return file.name == name && file.fault.empty(); });
 }
 
-std::string stopped(const std::string& last) {
-  std::string text = "it was stopped (status -1). Its last message: " + (last.empty() ? "none" : shown(last));
-  if (!last.empty() && !last.starts_with("****"))
-    text +=
-        "\nWhere that is no error: a layer of code 0 with too few curves in MANUALPY, MANUALTZ or MANUALQZ, most "
-        "likely; see \"A log that ends without EXIT\" in docs/messages.md.";
-  return text;
-}
-
 bool refused(std::string_view log) {
   return log.starts_with("tervak.inp:") || log.find("\ntervak.inp:") != std::string_view::npos;
 }
@@ -45,7 +36,8 @@ std::string reason(const run_facts& facts) {
     return "it made no run log (status " + status + "). Can files be written and moved in " +
            shown(facts.directory) + "?";
   if (refused(facts.log)) return "the deck was refused. Correct the places above (status " + status + ").";
-  if (facts.end.status == STOPPED && last != companion::ERROR_EXIT) return stopped(last);
+  if (facts.end.status == STOPPED && last != companion::ERROR_EXIT)
+    return "it was stopped (status -1). Its last message: " + (last.empty() ? "none" : shown(last));
   if (facts.end.status == STOPPED && whole(facts, "TERVAK.RIF"))
     return "the USFOS exports are not whole. TERVAK.RIF is whole.";
   if (facts.end.status != 0 || last != companion::NORMAL_EXIT)

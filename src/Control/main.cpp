@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <memory>
 
 #include "BlockKeeper/ExhaustedMemory.hpp"
@@ -10,8 +11,13 @@ namespace {
 
 }  // namespace
 
-/// No arguments and no environment: everything lies in the current directory.
-int main() {
+/// Everything lies in the current directory. An argument is a misunderstanding, and then no file is touched.
+int main(int argc, char**) {
+  if (argc > 1) {
+    std::fputs("usage: tervak (no arguments: it reads TERVAK.INP and tervak.inp in the current directory)\n",
+               stderr);
+    return 2;
+  }
   try {
     const auto cmn = std::make_unique<tervak::common>();
     return tervak::CONTRL(*cmn);

@@ -20,7 +20,7 @@ struct curve_family {
   int most_points;
   int first_slot;
   bool starts_at_origin;
-  const char *layer_text, *diameter_text, *points_text, *sequence_text, *not_used_text;
+  const char *layer_text, *diameter_text, *points_text, *sequence_text;
 };
 
 struct curve_store {
@@ -80,9 +80,6 @@ void read_family(common& cmn, const curve_family& family, const curve_store& cur
       if (cmn.IERR != 0) return;
     }
   }
-  if (next > static_cast<int>(records.size())) return;
-  const ManualCurveRecord& left = entry(records, next);
-  fail(cmn, NOT_ACCEPTED, family.not_used_text, next, left.Layer, cmn.CONVERTER->Length(left.Diameter));
 }
 
 }  // namespace
@@ -98,7 +95,6 @@ void read_manual_py(common& cmn, int MIDPNT, const Tervak& profile) {
       "(/,' **** SR/READG3 : MANUAL P-Y DIAMETER  NL,DIA=',i5,f10.3)",
       "(/,' **** SR/READG3 : MANUAL P-Y CURVE POINTS  NL,NUM=',2i5)",
       "(/,' **** SR/READG3 : MANUAL P-Y Y-DISPL SEQUENCE ERROR',/,i20,2f10.3)",
-      "(/,' **** SR/READG3 : MANUAL P-Y CURVE NOT USED  NUM,LAY,DIA=',2i5,f10.3)",
   };
   read_family(cmn, family, {cmn.NPYPNT, cmn.PYSTR, cmn.PYDSP}, profile.GetTervakInputData().ManualPy.Records);
 }
@@ -114,7 +110,6 @@ void read_manual_tz(common& cmn, const Tervak& profile) {
       "(/,' **** SR/READG3 : MANUAL T-Z DIAMETER  NL,DIA=',i5,f10.3)",
       "(/,' **** SR/READG3 : MANUAL T-Z CURVE POINTS  NL,NUM=',2i5)",
       "(/,' **** SR/READG3 : MANUAL T-Z Z-DISPL SEQUENCE ERROR',/,i20,2f10.3)",
-      "(/,' **** SR/READG3 : MANUAL T-Z CURVE NOT USED  NUM,LAY,DIA=',2i5,f10.3)",
   };
   read_family(cmn, family, {cmn.NTZPNT, cmn.TZSTR, cmn.TZDSP}, profile.GetTervakInputData().ManualTz.Records);
 }
@@ -130,7 +125,6 @@ void read_manual_qz(common& cmn, const Tervak& profile) {
       "(/,' **** SR/READG3 : MANUAL Q-Z DIAMETER  NL,DIA=',i5,f10.3)",
       "(/,' **** SR/READG3 : MANUAL Q-Z CURVE POINTS  NL,NUM=',2i5)",
       "(/,' **** SR/READG3 : MANUAL Q-Z Z-DISPL SEQUENCE ERROR',/,i20,2f10.3)",
-      "(/,' **** SR/READG3 : MANUAL Q-Z CURVE NOT USED  NUM,LAY,DIA=',2i5,f10.3)",
   };
   read_family(cmn, family, {cmn.NQZPNT, cmn.QZSTR, cmn.QZDSP}, profile.GetTervakInputData().ManualQz.Records);
 }

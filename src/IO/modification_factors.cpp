@@ -15,7 +15,7 @@ using Vrsk::Plin::TervakExchange::PyModificationRecord;
 using Vrsk::Plin::TervakExchange::Tervak;
 
 struct factor_texts {
-  const char *sequence, *layer, *diameter, *values, *not_used;
+  const char *sequence, *layer, *diameter, *values;
 };
 
 /// What a record covers.
@@ -75,14 +75,6 @@ int value_fault(double EPS, const std::array<double, 5>& values) {
   return 0;
 }
 
-/// The list has ended at record i, with the last layer and the last diameter: a further record would be lost.
-template <class Record>
-void check_end(common& cmn, const std::vector<Record>& records, const factor_texts& texts, int i) {
-  if (static_cast<int>(records.size()) == i) return;
-  const Record& next = entry(records, i + 1);
-  if (next.L1 != 0) fail(cmn, NOT_ACCEPTED, texts.not_used, i + 1, next.L1, next.L2);
-}
-
 template <std::size_t K, class Record, class ValuesOf>
 void read_family(common& cmn, const std::vector<Record>& records, table2<std::array<double, K>>& factors,
                  const factor_texts& texts, ValuesOf values_of) {
@@ -103,7 +95,7 @@ void read_family(common& cmn, const std::vector<Record>& records, table2<std::ar
 
     for (int NL = now.L1; NL <= now.L2; ++NL)
       for (int ND = held.first; ND <= held.last; ++ND) factors(ND, NL) = values;
-    if (now.L2 >= cmn.NUMLAY && held.last == cmn.NUMDIA) return check_end(cmn, records, texts, i);
+    if (now.L2 >= cmn.NUMLAY && held.last == cmn.NUMDIA) return;
   }
 }
 
@@ -119,7 +111,6 @@ void read_py_factors(common& cmn, const Tervak& profile) {
       "(/,' **** SR/READG3 : P-Y MODIF LAYER ERROR  LAY,NUMLAY=',2i5)",
       "(/,' **** SR/READG3 : P-Y MODIF DIAM  NOW,DIA=',i5,f10.3)",
       "(/,' **** SR/READG3 : P-Y MODIF VALUES  NOW,IERR=',2i5)",
-      "(/,' **** SR/READG3 : P-Y MODIF ROW NOT USED  NOW,L1,L2=',3i5)",
   };
   const auto values = [&](const PyModificationRecord& record) {
     const double PYGAP = cmn.CONVERTER->Length(record.PYGAP);
@@ -134,7 +125,6 @@ void read_tz_factors(common& cmn, const Tervak& profile) {
       "(/,' **** SR/READG3 : T-Z MODIF LAYER ERROR  LAY,NUMLAY=',2i5)",
       "(/,' **** SR/READG3 : T-Z MODIF DIAM  NOW,DIA=',i5,f10.3)",
       "(/,' **** SR/READG3 : T-Z MODIF VALUES  NOW,IERR=',2i5)",
-      "(/,' **** SR/READG3 : T-Z MODIF ROW NOT USED  NOW,L1,L2=',3i5)",
   };
   read_family(cmn, profile.GetTervakInputData().TzModification.Records, cmn.TZMOD, texts, axial_values);
 }
@@ -145,7 +135,6 @@ void read_qz_factors(common& cmn, const Tervak& profile) {
       "(/,' **** SR/READG3 : Q-Z MODIF LAYER ERROR  LAY,NUMLAY=',2i5)",
       "(/,' **** SR/READG3 : Q-Z MODIF DIAM  NOW,DIA=',i5,f10.3)",
       "(/,' **** SR/READG3 : Q-Z MODIF VALUES  NOW,IERR=',2i5)",
-      "(/,' **** SR/READG3 : Q-Z MODIF ROW NOT USED  NOW,L1,L2=',3i5)",
   };
   bool tension = false;
   const auto values = [&](const AxialModificationRecord& record) {

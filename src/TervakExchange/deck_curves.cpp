@@ -38,12 +38,16 @@ void read_at(const deck_curves& curves, const deck_statement& line, Tervak& prof
   ManualCurveRecord record;
   if (!refuse_commas(line, "AT", faults)) {
     if (line.fields.size() == 3) {
-      read_integer(line.fields[1], "AT", "an integer as layer", record.Layer, faults);
+      if (is_main_layer(line.fields[1].text))
+        read_main_layer(line.fields[1], "AT", record.Layer, faults);
+      else
+        read_integer(line.fields[1], "AT", "an integer as layer", record.Layer, faults);
       read_number(line.fields[2], "AT", "a number as diameter", record.Diameter, faults);
     } else {
       const std::size_t found = line.fields.size() - 1;
       faults.add(line.fields[0].place, "AT takes a layer and a diameter, found " + std::to_string(found) +
-                                           (found == 1 ? " field" : " fields") + " behind it");
+                                           (found == 1 ? " field" : " fields") + " behind it" +
+                                           std::string(ascii_hint(line.code)));
     }
   }
   curves.records(profile).push_back(record);

@@ -7,6 +7,9 @@
 
 namespace Vrsk::Plin::TervakExchange {
 
+/// The line end inside the text of a refusal, as in the whole log.
+inline constexpr std::string_view RECORD_END = "\r\n";
+
 /// A place in the deck. Line and column count from 1, column and length in bytes.
 struct deck_place {
   std::size_t line = 1, column = 1, length = 1;
@@ -24,8 +27,13 @@ class deck_faults {
 
   void add(const deck_place& place, std::string text);
   [[nodiscard]] std::size_t count() const { return count_; }
+  /// Whether a fault at this place would be among those whose text is shown, as far as is known by now.
+  [[nodiscard]] bool shows(const deck_place& place) const;
   /// The refusal: the first 20 faults, then the number of the others.
-  [[nodiscard]] std::string text() const;
+  [[nodiscard]] std::string text(std::string_view line_end = RECORD_END) const;
+  /// A text about a place, in the form of a fault.
+  [[nodiscard]] std::string described(const deck_place& place, std::string_view text,
+                                      std::string_view line_end) const;
 
  private:
   struct fault {
@@ -33,7 +41,6 @@ class deck_faults {
     std::string text;
   };
   void drop_beyond_limit();
-  [[nodiscard]] std::string described(const fault& f) const;
 
   std::string_view file_name_;
   const std::vector<std::string_view>& lines_;

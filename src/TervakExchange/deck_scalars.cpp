@@ -143,8 +143,10 @@ void read_scalar(const deck_scalar& scalar, const deck_statement& line, Tervak& 
   else
     read_number(value, scalar.name, expected(scalar),
                 std::get<deck_scalar::number_place>(scalar.place)(profile), faults);
-  const bool sign = value.text == "=" || value.text == ":";  // told with the sign
-  if (line.fields.size() > 2 && comma_hint(value.text).empty() && !sign)
+  // What explains a second field has been told with the first one.
+  const bool explained = value.text == "=" || value.text == ":" || !comma_hint(value.text).empty() ||
+                         !ascii_hint(value.text).empty();
+  if (line.fields.size() > 2 && !explained)
     faults.add(line.fields[2].place,
                takes + std::string(expected(scalar)) + ", found " + behind_it(line.fields[2]));
 }

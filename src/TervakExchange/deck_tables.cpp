@@ -233,7 +233,8 @@ bool row_has_shape(const deck_statement& line, std::string_view who, std::size_t
   const std::string fields =
       least == most ? std::to_string(most) : std::to_string(least) + " or " + std::to_string(most);
   faults.add({first.line, first.column, last.column + last.length - first.column},
-             std::string(who) + " row takes " + fields + " fields, found " + std::to_string(found));
+             std::string(who) + " row takes " + fields + " fields, found " + std::to_string(found) +
+                 std::string(ascii_hint(line.code)));
   return false;
 }
 

@@ -35,6 +35,10 @@ class deck_table {
   /// Reads a row and appends its record; a row with a fault appends none. True when the row closes its list,
   /// as a row with L1 = 0 does in the lists of P-Y, T-Z and Q-Z factors.
   virtual bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const = 0;
+  /// The number of a column by its name, from 0; the number of columns when there is none of that name.
+  [[nodiscard]] virtual std::size_t find_column(std::string_view column) const = 0;
+  /// Whether its rows are for a first to a last layer, which may be written as main layers.
+  [[nodiscard]] virtual bool counts_layers() const = 0;
 
  private:
   std::string_view name_;
@@ -61,6 +65,15 @@ class deck_table_of final : public deck_table {
   }
 
   bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const override;
+  [[nodiscard]] std::size_t find_column(std::string_view column) const override {
+    std::size_t i = 0;
+    while (i < columns_.size() && columns_[i].name != column) ++i;
+    return i;
+  }
+  [[nodiscard]] bool counts_layers() const override {
+    return requires(R record) { record.L1; }
+    || requires(R record) { record.LAY1; };
+  }
 
  private:
   bool read_field(std::size_t i, const deck_field& field, R& record, deck_faults& faults) const;
@@ -83,12 +96,18 @@ bool deck_table_of<R>::read_row(const deck_statement& line, Tervak& profile, dec
   if (!row_has_shape(line, name(), least_, columns_.size(), faults)) return false;
   R record{};
   bool good = true;
-  for (std::size_t i = 0; i < line.fields.size(); ++i)
+  std::size_t first = 0;
+  const bool main_layers = counts_layers() && is_main_layer(line.fields[0].text);
+  for (; main_layers && first < 2; ++first)
+    good = read_main_layer(line.fields[first], labels_[first],
+                           (*std::get_if<int& (*)(R&)>(&columns_[first].place))(record), faults) &&
+           good;
+  for (std::size_t i = first; i < line.fields.size(); ++i)
     good = read_field(i, line.fields[i], record, faults) && good;
   if (!good) return false;
   append_(profile, record);
   if constexpr (requires { record.L1; })
-    return record.L1 == 0;
+    return !main_layers && record.L1 == 0;
   else
     return false;
 }

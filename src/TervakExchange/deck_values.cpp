@@ -7,6 +7,11 @@
 
 namespace Vrsk::Plin::TervakExchange {
 
+bool is_main_layer(std::string_view word) {
+  return word.size() > 1 && (word.front() == 'M' || word.front() == 'm') &&
+         std::all_of(word.begin() + 1, word.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
 namespace {
 
 void refuse(const deck_field& field, std::string_view who, std::string_view what, std::string_view hint,
@@ -21,11 +26,10 @@ std::string_view hint_for(std::string_view field, bool integer) {
   if (!comma_hint(field).empty()) return comma_hint(field);
   if (field.front() == '=' || field.front() == ':')
     return "; only blanks stand between a keyword and its value";
+  if (integer && is_main_layer(field)) return "; a main layer as M stands in both columns";
   if (integer && parse_number(field, value) == number_fault::none)
     return "; an integer takes no point and no exponent";
-  if (std::any_of(field.begin(), field.end(), [](char c) { return static_cast<unsigned char>(c) > 0x7F; }))
-    return "; it holds a character that is not plain ASCII";
-  return "";
+  return ascii_hint(field);
 }
 
 }  // namespace
@@ -35,9 +39,17 @@ std::string_view comma_hint(std::string_view field) {
   return "; write a decimal point or a blank, no comma";
 }
 
+std::string_view ascii_hint(std::string_view text) {
+  if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) <= 0x7F; }))
+    return "";
+  return "; it holds a character that is not plain ASCII";
+}
+
 std::string behind_it(const deck_field& field) {
-  const std::string_view comma = comma_hint(field.text);
-  return shown(field.text) + " behind it" + std::string(comma.empty() ? "; comments open with \"!\"" : comma);
+  std::string_view hint = comma_hint(field.text);
+  if (hint.empty()) hint = ascii_hint(field.text);
+  if (hint.empty()) hint = "; comments open with \"!\"";
+  return shown(field.text).append(" behind it").append(hint);
 }
 
 bool read_number(const deck_field& field, std::string_view who, std::string_view what, double& value,
@@ -56,6 +68,13 @@ bool read_integer(const deck_field& field, std::string_view who, std::string_vie
   if (fault == number_fault::none) return true;
   const bool range = fault == number_fault::range;
   refuse(field, who, what, range ? "; it is beyond 32 bits" : hint_for(field.text, true), faults);
+  return false;
+}
+
+bool read_main_layer(const deck_field& field, std::string_view who, int& number, deck_faults& faults) {
+  if (is_main_layer(field.text) && parse_integer(field.text.substr(1), number) == number_fault::none)
+    return true;
+  refuse(field, who, "a main layer as M and its number", "", faults);
   return false;
 }
 

@@ -52,7 +52,7 @@ int last_layer(const profile_draft& draft) {
 }
 
 void check_missing(const profile_draft& draft, deck_faults& faults) {
-  const deck_place heading{draft.heading_line, 1, 1};
+  const deck_place heading{draft.map.heading, 1, 1};
   for (std::size_t i = 0; i < draft.uses.size(); ++i) {
     const deck_keyword& keyword = deck_keywords()[i];
     const keyword_use& use = draft.uses[i];
@@ -80,7 +80,7 @@ void check_counts(const profile_draft& draft, deck_faults& faults) {
     if (rows.given)
       faults.add(rows.place, has_rows(table, rows.rows) + ", " + says);
     else if (table == "DISPLACEMENTS")  // the other three tables are missing as it is
-      faults.add({draft.heading_line, 1, 1}, draft.title() + " has no " + std::string(table) + ", " + says);
+      faults.add({draft.map.heading, 1, 1}, draft.title() + " has no " + std::string(table) + ", " + says);
   }
   const keyword_use& main_layers = draft.use("MAINLAYERS");
   if (!main_layers.given || main_layers.cut) return;
@@ -156,10 +156,10 @@ void check_curves(const profile_draft& draft, deck_faults& faults) {
 
 void check_profile(const profile_draft& draft, deck_faults& faults) {
   if (draft.empty)
-    return faults.add({draft.heading_line, 1, 1}, draft.title() +
-                                                      " has nothing behind its heading; at the end of a "
-                                                      "deck stands END, and no text behind it");
-  check_missing(draft, faults);
+    return faults.add({draft.map.heading, 1, 1}, draft.title() +
+                                                     " has nothing behind its heading; at the end of a "
+                                                     "deck stands END, and no text behind it");
+  if (!draft.any_meant) check_missing(draft, faults);
   check_counts(draft, faults);
   check_layer_count(draft, faults);
   check_curves(draft, faults);

@@ -32,7 +32,7 @@ std::string profile_draft::title() const {
 
 profile_draft profile_reader::read() {
   draft_.number = range_.number;
-  draft_.heading_line = range_.heading;
+  draft_.map.heading = range_.heading;
   draft_.profile.header = lines_[range_.heading - 1];
   set_standard_values(draft_.profile);
   find_revision();
@@ -77,13 +77,14 @@ void profile_reader::refuse_missing_heading() {
 void profile_reader::read_line(const deck_statement& line) {
   behind_unknown_ = std::exchange(unknown_, false);
   const char first = line.fields[0].text.front();
+  if (is_main_layer(line.fields[0].text) && takes_main_layers()) return read_row(line);
   if (is_letter(first)) return read_keyword(line);
   if (opens_number(first)) return read_row(line);
   const deck_field& word = line.fields[0];
   const std::string_view character = first_character(word.text);
   std::string text = "a line cannot begin with " + shown(character);
   if (first == '*') text += "; a comment has its * in column 1";
-  if (!comma_hint(word.text).empty()) text += comma_hint(word.text);
+  text += comma_hint(word.text).empty() ? ascii_hint(character) : comma_hint(word.text);
   faults_.add({word.place.line, word.place.column, character.size()}, std::move(text));
   unknown_ = true;
   // Without that character it may be a keyword, or a row.
@@ -131,6 +132,7 @@ void profile_reader::read_keyword(const deck_statement& line) {
     use.given = true;
     use.place = word.place;
   }
+  if (target == &draft_.profile) draft_.map.of(*keyword).lines.push_back(word.place.line);
   const std::size_t faults = faults_.count();
   open(*keyword, line, *target);
   if (faults_.count() != faults) use.faulty = true;
@@ -140,18 +142,23 @@ void profile_reader::read_unknown(const deck_statement& line) {
   const deck_field& word = line.fields[0];
   std::string text = "unknown keyword " + shown(word.text);
   const bool at = in_curves() && same_word(word.text.substr(0, 2), "AT");
-  const nearest_keyword nearest = at ? nearest_keyword{} : find_nearest(word.text, draft_.profile.version);
+  // A deck may have a million such lines, and the search is long: it is made where the fault is shown.
+  const bool sought = faults_.shows(word.place);
+  const nearest_keyword nearest =
+      at || !sought ? nearest_keyword{} : find_nearest(word.text, draft_.profile.version);
+  if (!at && !sought) draft_.any_meant = true;
   if (!comma_hint(word.text).empty())
     text += comma_hint(word.text);
   else if (at || nearest.sure ||
            (nearest.keyword && (line.fields.size() < 2 || opens_number(line.fields[1].text.front()))))
     text += "; did you mean " + std::string(at ? "AT" : nearest.keyword->name) + "?";
+  text += ascii_hint(word.text);
   // One mistake, one fault: what the word means is not missing too, and the rows behind it are passed over.
   if (nearest.sure) draft_.use(*nearest.keyword).meant = true;
   if (rows_ == rows::read || rows_ == rows::before_at) {
     interrupted_ = open_;
     // A row that begins with a letter, or a misspelt AT, and no keyword
-    if (at || (!nearest.sure && line.fields.size() > 2)) lose_rows();
+    if (at || !sought || (!nearest.sure && line.fields.size() > 2)) lose_rows();
   }
   rows_ = rows::passed_over;
   unknown_ = true;
@@ -188,7 +195,11 @@ void profile_reader::read_at_line(const deck_statement& line) {
     return;
   }
   rows_ = rows::read;
-  if (target_ == &draft_.profile) ++draft_.use(*open_).curves;
+  if (target_ == &draft_.profile) {
+    ++draft_.use(*open_).curves;
+    keep_row(line);
+    draft_.map.of(*open_).points.emplace_back();
+  }
   const std::size_t faults = faults_.count();
   read_at(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_);
   if (faults_.count() != faults) draft_.use(*open_).faulty = true;
@@ -208,14 +219,27 @@ void profile_reader::read_open_row(const deck_statement& line) {
   keyword_use& use = draft_.use(*open_);
   if (target_ == &draft_.profile) ++use.rows;
   const std::size_t faults = faults_.count();
-  if (closed_)
+  if (closed_) {
     faults_.add(line.fields[0].place, "this row of " + std::string(open_->name) +
                                           " stands behind a row whose L1 is 0, which closes the list");
-  else if (const auto* table = std::get_if<const deck_table*>(&open_->what))
+  } else if (const auto* table = std::get_if<const deck_table*>(&open_->what)) {
+    keep_row(line);
     closed_ = (*table)->read_row(line, *target_, faults_);
-  else if (!read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_))
-    lose_rows(), rows_ = rows::before_at;
+  } else if (read_point(**std::get_if<const deck_curves*>(&open_->what), line, *target_, faults_)) {
+    if (target_ == &draft_.profile) draft_.map.of(*open_).points.back().push_back(line.fields[0].place.line);
+  } else {
+    lose_rows();
+    rows_ = rows::before_at;
+  }
   if (faults_.count() != faults) use.faulty = true;
+}
+
+/// The places of a table that stands twice, and of rows with a fault, serve nobody: the deck is refused.
+void profile_reader::keep_row(const deck_statement& line) {
+  if (target_ != &draft_.profile) return;
+  keyword_map& map = draft_.map.of(*open_);
+  map.records.push_back({map.rows.size()});
+  map.rows.push_back(line.fields[0].place.line);
 }
 
 }  // namespace Vrsk::Plin::TervakExchange

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "TervakExchange/deck_keywords.hpp"
+#include "TervakExchange/deck_map.hpp"
 
 namespace Vrsk::Plin::TervakExchange {
 
@@ -21,10 +21,11 @@ struct keyword_use {
 
 /// A profile as read, and what the checks that concern the whole profile need to know about it.
 struct profile_draft {
-  int number = 0;  ///< in the deck, from 1
-  std::size_t heading_line = 0;
-  bool empty = true;  ///< nothing stands behind the heading
+  int number = 0;          ///< in the deck, from 1
+  bool empty = true;       ///< nothing stands behind the heading
+  bool any_meant = false;  ///< a word that was not looked into may mean any keyword that is not given
   Tervak profile;
+  profile_map map;
   std::vector<keyword_use> uses = std::vector<keyword_use>(deck_keywords().size());
 
   [[nodiscard]] keyword_use& use(const deck_keyword& keyword) {
@@ -65,6 +66,13 @@ class profile_reader {
   void lose_rows();
   void read_row(const deck_statement& line);
   void read_open_row(const deck_statement& line);
+  void keep_row(const deck_statement& line);
+  /// Also behind a word that was most likely meant as the name of such a table.
+  [[nodiscard]] bool takes_main_layers() const {
+    if (rows_ == rows::passed_over) return true;
+    const auto* table = open_ ? std::get_if<const deck_table*>(&open_->what) : nullptr;
+    return rows_ == rows::read && table && (*table)->counts_layers();
+  }
   [[nodiscard]] bool in_curves() const {
     return (rows_ == rows::read || rows_ == rows::before_at) &&
            std::holds_alternative<const deck_curves*>(open_->what);

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path EXAMPLES = fs::path(__FILE__).parent_path() / "../../examples";
+const fs::path EXAMPLES = fs::path(TERVAK_SOURCE_DIR) / "examples";
 
 std::string content(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);

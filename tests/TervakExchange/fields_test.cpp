@@ -42,9 +42,11 @@ TEST(DeckFields, CountsAndTheShearModulusOfRevision4) {
 }
 
 TEST(DeckFields, WhatIsNoPlainNumber) {
-  const Tervak t = read(with(REVISION5, 23, "1 30.5 4 0 0 0 1 81 82 83 84 85\n") +
-                        "BORING  B-1, north \t! text\nDIAM 1.8\nSCRSLP 25\nMODIFYQZ\n3 4 1.5 5 6 7 8 9\n")
-                       .at(0);
+  const Tervak t =
+      read(
+          with(REVISION5, 23, "1 30.5 4 284 0 200 1 81 82 83 84 85\n") +
+          "MANUALTZ\nAT m1 0\n0 0\nBORING  B-1, north \t! text\nDIAM 1.8\nSCRSLP 25\nMODIFYQZ\n3 4 1.5 5 6 7 8 9\n")
+          .at(0);
   const TervakInputData& d = t.data;
   EXPECT_EQ(d.Boring, "B-1, north");
   EXPECT_EQ(d.Diameters, (numbers{1.2, 1.5, 1.8}));
@@ -54,13 +56,14 @@ TEST(DeckFields, WhatIsNoPlainNumber) {
 }
 
 TEST(DeckFields, Curves) {
-  const Tervak t = read(with(REVISION5, 23, "1 30.5 4 0 0 0 1\n") +
-                        "MANUALBSY\nAT 1 1.2\n0 0\n5 0.1\nMODIFYBSY\n1 2 1.2 3 4\n"
-                        "MANUALMTHETA\nAT 2 1.5\n0 0\n7 0.2\nMODIFYMTHETA\n3 4 1.5 5 6\n"
-                        "MANUALBMTHETA\nAT 3 1.8\n0 0\n9 0.3\nMODIFYBMTHETA\n5 6 1.8 7 8\n"
-                        "MANUALPY\n at 1 1.2\n 0 0\n 8 0.01\n AT 1 1.5\nMANUALTZ\nAT 2 1.2\n-3 -0.1\n"
-                        "MANUALQZ\nAT 3 1.2\n4 .2\n")
-                       .at(0);
+  const Tervak t =
+      read(with(with(REVISION5, 23, "1 30.5 1 0 0 0 1\n"), 7, "DIAM 1.2 1.5\n") +
+           "MANUALBSY\nAT 1 1.2\n0 0\n5 0.1\nMODIFYBSY\n1 2 1.2 3 4\n"
+           "MANUALMTHETA\nAT 2 1.5\n0 0\n7 0.2\nMODIFYMTHETA\n3 4 1.5 5 6\n"
+           "MANUALBMTHETA\nAT 3 1.8\n0 0\n9 0.3\nMODIFYBMTHETA\n5 6 1.8 7 8\n"
+           "MANUALPY\n at 1 1.2\n 0 0\n 8 0.01\n AT 1 1.5\nMANUALTZ\nAT 1 1.2\n-3 -0.1\nAT 1 1.5\n"
+           "MANUALQZ\nAT 1 1.2\n4 .2\nAT 1 1.5\n")
+          .at(0);
   const TervakInputData& d = t.data;
   EXPECT_TRUE(d.Control.HasDMData() && d.Control.HasBMData() && d.Control.HasBSData());
   EXPECT_EQ(d.ManualPy.Records.at(0).Stresses, (numbers{0, 8}));
@@ -68,7 +71,7 @@ TEST(DeckFields, Curves) {
   EXPECT_EQ(d.ManualPy.Records.at(1).Diameter, 1.5);
   EXPECT_TRUE(d.ManualPy.Records.at(1).Stresses.empty());
   EXPECT_EQ(d.ManualTz.Records.at(0).Displacements, (numbers{-0.1}));
-  EXPECT_EQ(d.ManualQz.Records.at(0).Layer, 3);
+  EXPECT_EQ(d.ManualQz.Records.at(1).Layer, 1);
   EXPECT_EQ(d.ManualMtheta.GetManualCurve(2, 1.5, 1), (ManualMonopileCurve{{0, 0}, {0.2, 7}}));
   EXPECT_EQ(d.ManualBSY.GetManualCurve(1, 1.2, 1), (ManualMonopileCurve{{0, 0}, {0.1, 5}}));
   EXPECT_EQ(d.ManualBMtheta.GetManualCurve(3, 1.8, 1), (ManualMonopileCurve{{0, 0}, {0.3, 9}}));

@@ -97,10 +97,11 @@ std::string import_refusal(const std::string& file) {
 TEST(DeckLines, DecksThatCannotBeRead) {
   EXPECT_EQ(refusal(""), "tervak.inp:1:1: the deck is empty, expected the heading of a profile");
   EXPECT_EQ(
-      import_refusal("no such deck"),
+      import_refusal("tervak.inp"),
       ":1:1: cannot open the deck: No such file or directory; upper and lower case are two names on this "
       "file system, and the deck must stand under both TERVAK.INP and tervak.inp: ln -s TERVAK.INP "
       "tervak.inp");
+  EXPECT_EQ(import_refusal("no such deck"), ":1:1: cannot open the deck: No such file or directory");
   EXPECT_EQ(import_refusal(std::string(5000, 'x')), ":1:1: cannot open the deck: File name too long");
   EXPECT_EQ(import_refusal(std::filesystem::temp_directory_path()),
             ":1:1: cannot read the deck: Is a directory");
@@ -128,7 +129,7 @@ TEST(DeckLines, LongDecksAndLinesInLinearTime) {
   std::string bytes;
   for (unsigned i = 0, byte = 1; i < 100000; ++i, byte = byte * 1103515245u + 12345u)
     bytes += static_cast<char>(byte >> 16);
-  EXPECT_EQ(refusal(bytes).substr(0, 16), "tervak.inp:1:1: ");
+  EXPECT_EQ(refusal(bytes).substr(0, 11), "tervak.inp:");
 }
 
 }  // namespace

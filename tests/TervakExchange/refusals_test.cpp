@@ -182,11 +182,27 @@ TEST(DeckRefusals, Curves) {
   const std::string unused = ": MANUALTZ is not used, no layer has the T-Z code 0\n";
   expect_all(
       REVISION4,
-      {{3, "MIDBOT 1\nMANUALPY\nAT 5 1\n0 0\n", "accepted\n"},
-       {3, "MIDBOT 1\nNUMLAY 4\nMANUALPY\nAT 5 1\n0 0\n",  // code 0 stands behind the layers in use
-        "5:1: MANUALPY is not used, no layer has the P-Y code 0\n"},
-       {3, "MIDBOT 1\nNUMLAY 4.\nMANUALPY\nAT 5 1\n0 0\n",  // a faulty NUMLAY says nothing about the codes
-        "4:8: NUMLAY takes one integer, found \"4.\"" NO_POINT},
+      {{24, "5 6 1 30 0 214 101\nMANUALPY\nAT 5 1.2\nAT 6 1.2\n0 0\n", "accepted\n"},
+       {24, "5 6 1 30 0 214 101\nMANUALPY\nAT 5 1.2\n",
+        "25:1: MANUALPY has no curve for layer 6 and diameter 1.2; layer 6 has the P-Y code 0\n"},
+       {24, "5 6 1 30 0 214 101\n",
+        "1:1: profile 1 \"Heading 4\" has no MANUALPY for layer 5 and diameter 1.2; layer 5 has the P-Y code 0\n"},
+       {24, "5 6 1 30 0 214 101\nMANUALPY\nAT 4 1.2\nAT 5 1.2\nAT 5 1.3\nAT 5 1.2\nAT 7 1.2\nAT M1 0\n",
+        "31:4: \"M1\" is a main layer, and a profile of revision 4 has none\n"},
+       {24, "5 6 1 30 0 214 101\nMANUALPY\nAT 4 1.2\nAT 5 1.2\nAT 5 1.3\nAT 5 1.2\nAT 7 1.2\n",
+        "26:1: this curve would not be used: layer 4 has the P-Y code 284, not 0\n"
+        "28:6: this curve would not be used: \"1.3\" is no DIAM\n"
+        "29:1: layer 5 and this diameter have their curve already, on line 27\n"
+        "30:4: this curve would not be used: the profile has the layers 1 to 6\n"},
+       // code 0 stands behind the layers in use
+       {24, "5 6 1 30 0 214 101\nNUMLAY 4\nMANUALPY\nAT 5 1\n0 0\n",
+        "26:1: MANUALPY is not used, no layer has the P-Y code 0\n"},
+       // a faulty NUMLAY says nothing about the codes
+       {24, "5 6 1 30 0 214 101\nNUMLAY 4.\nMANUALPY\nAT 5 1\n0 0\n",
+        "25:8: NUMLAY takes one integer, found \"4.\"" NO_POINT},
+       // numbers that are not sound are for the stages
+       {24, "4 6 1 30 0 214 101\nMANUALPY\nAT 5 1\n", "accepted\n"},
+       {24, "5 501 1 30 0 214 101\nMANUALPY\nAT 5 1\n", "accepted\n"},
        {3, "MIDBOT 1\nMANUALTZ\nAT 1 1\n0 0\n", "4:1" + unused}});
   expect_all(
       REVISION5,
@@ -212,6 +228,68 @@ TEST(DeckRefusals, Curves) {
        {3, "GAMWAT 1\nMODIFYBSY\n1 1 1 1 1\nMODIFYMTHETA\nMODIFYBMTHETA\nMANUALBMTHETA\nAT 1 1\n",
         "4:1: MODIFYBSY stands without MANUALBSY, which it modifies\n"
         "6:1: MODIFYMTHETA stands without MANUALMTHETA, which it modifies\n"}});
+}
+
+TEST(DeckRefusals, MainLayers) {
+  const std::string layers =
+      "MATPIL 2\nMAINLAYERS\n1 9 18 0 0 35 0 0 0 0 0 0 0\n2 12 18 0 0 35 0 0 0 0 0 0 0\n"
+      "3 30 18 0 0 35 0 0 0 0 0 0 0\nSKINFRICTION\n1 0 1 1 1 1 1 1 1 1 0\n"
+      "2 0 1 1 1 1 1 1 1 1 0\n3 0 1 1 1 1 1 1 1 1 0\n"
+      "SUBDIVISION\n1 9 2 284 0 200 0\n2 12 3 284 0 200 0\n3 30 4 284 293 200 0\n";
+  std::string base = REVISION5;
+  base.resize(base.find("MATPIL"));
+  base += layers;  // up to line 29
+  const std::string curves = "MANUALTZ\nAT m1 0\n0 0\nAT 4 1.2\nAT 5 1.2\nAT 3 1.2\nAT M2 1.5\n";  // to 36
+  const std::string good = base + curves;
+  const struct {
+    std::string deck, faults;
+  } rows[] = {
+      {good, "accepted\n"},
+      {base,
+       "1:1: profile 1 \"Heading 5\" has no MANUALTZ for layer 1 and diameter 1.2; layer 1 has the T-Z code 0\n"},
+      {good + "AT M3 0\nAT M4 1.2\nAT M0 0\nAT M1 1.3\nAT Mx 1\n",
+       "41:4: AT takes an integer as layer, found \"Mx\"\n"},
+      {good + "AT M3 0\nAT M4 1.2\nAT M0 0\nAT M1 1.3\nAT M2 1.2\n",
+       "37:1: this curve would not be used: main layer 3 has the T-Z code 293, not 0\n"
+       "38:4: there is no main layer 4, the profile has 3\n"
+       "39:4: there is no main layer 0, the profile has 3\n"
+       "40:7: this curve would not be used: \"1.3\" is no DIAM\n"
+       "41:1: layer 3 and this diameter have their curve already, on line 35\n"},
+      {with(good, 31, "AT m1 1.5\n"),
+       "30:1: MANUALTZ has no curve for layer 1 and diameter 1.2; layer 1 has the T-Z code 0, "
+       "and 1 more are missing\n"},
+      {with(good, 17, "MATPIL 2\nNUMPIL 1\n"),
+       "32:4: \"m1\" is a main layer, but NUMPIL 1 takes the calculation layers from pile nodes; write layer numbers\n"},
+      {with(good, 27, "1 9 0 284 0 200 0\n"), "accepted\n"},  // the stage speaks of NSUBM
+      {with(good, 27, "1 9 500 284 0 200 0\n"), "accepted\n"},
+      {good + "MANUALBSY\nAT M3 0\nAT 9 1.5\nAT M3 7\n",
+       "39:1: layer 9 and this diameter have their curve already, on line 38\n"},
+      {good + "MANUALBSY\nAT 9 1.5\nAT 9 1.5\n", "accepted\n"},
+      {good + "MODIFYTZ\nM2 M3 1.5 1 1 1 1 1\nm1 M1 0 1 1 1 1 1\nM2 m3 1.2 1 1 1 1 1\n", "accepted\n"},
+      {good +
+           "MODIFYTZ\nM2 M3 1.5 1 1 1 1 1\nM1 M2 0 1 1 1 1 1\nM3 M2 0 1 1 1 1 1\nM3 M4 0 1 1 1 1 1\nM1 M1 2 1 1 1 1 1\n",
+       "39:1: this row of MODIFYTZ overlaps the row on line 38; a main layer and a diameter take one row\n"
+       "40:4: \"M2\" lies above \"M3\"; the upper main layer is the first of the two\n"
+       "41:4: there is no main layer 4, the profile has 3\n"
+       "42:7: MODIFYTZ column 3, DIAMETER, takes one of DIAM, or 0.0 for all, found \"2\"\n"},
+      {good + "MODIFYTZ\nM2 M3 1.5 1 1 1 1 1\n1 2 0 1 1 1 1 1\n",
+       "39:1: this row names calculation layers, the rows above it main layers; all rows of MODIFYTZ are written "
+       "one way or the other\n"},
+      {good + "MODIFYTZ\nM2 3 1.5 1 1 1 1 1\n2 M3 0 1 1 1 1 1\n",
+       "38:4: MODIFYTZ column 2, L2, takes a main layer as M and its number, found \"3\"\n"
+       "39:3: MODIFYTZ column 2, L2, takes an integer, found \"M3\"; a main layer as M stands in both columns\n"},
+      {good + "MODIFYTZ\n1 9 1.5 1 1 1 1 1\n1 9 1.2 1 1 1 1 1\n",
+       "39:1: this row of MODIFYTZ would not be used: the row on line 38 reaches the last layer for the last "
+       "diameter, which ends the list\n"},
+      {good + "MODIFYTZ\n1 8 0 1 1 1 1 1\n1 9 1.2 1 1 1 1 1\n9 9 0 1 1 1 1 1\n0 0 0 0 0 0 0 0\n",
+       "accepted\n"},
+      {good + "MODIFYTZ\n1 10 0 1 1 1 1 1\n1 9 1.2 1 1 1 1 1\n", "accepted\n"},  // layers are the stage's
+      {good + "MODIFYBSY\nM4 M4 7 1 1\nMANUALBSY\nAT 1 1\n",
+       "38:1: there is no main layer 4, the profile has 3\n"
+       "38:4: there is no main layer 4, the profile has 3\n"},
+      {good + "MODIFTZ\nM1 M2 0 1\n", "37:1: unknown keyword \"MODIFTZ\"; did you mean MODIFYTZ?\n"},
+      {good + "SFSU 1\nM1 M2 0 1\n", "38:1: unknown keyword \"M1\"\n"}};
+  for (const auto& row : rows) EXPECT_EQ(places(row.deck), row.faults) << row.deck;
 }
 
 }  // namespace

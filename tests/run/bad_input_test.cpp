@@ -74,35 +74,6 @@ TEST(BadInput, EndsInAClearLine) {
   }
 }
 
-TEST(BadInput, WhatNoLayerOrDiameterAsksForIsRefused) {
-  const std::string two =
-      with(with(small_deck(), "DIAM     1.0", "DIAM     1.0 2.0"), "284 293 293", "0 0 0");
-  const std::string curves =
-      "AT 1 1.0\n0 0\n9 1\nAT 1 2.0\n0 0\n9 1\nAT 2 1.0\n0 0\n9 1\nAT 2 2.0\n0 0\n9 1\n";
-  for (const std::string family : {"P-Y", "T-Z", "Q-Z"}) {
-    SCOPED_TRACE(family);
-    const auto table = [&](const std::string& kind) { return kind + family[0] + family[2] + '\n'; };
-    std::string deck = two;
-    for (const char* other : {"MANUALPY\n", "MANUALTZ\n", "MANUALQZ\n"}) deck += other + curves;
-    const std::string values = family == "P-Y" ? " 1 1 0 1 1 1\n" : " 1 1 1 1 1\n";
-    const std::string closed = family == "P-Y" ? "0 0 0 1 1 0 1 1 1\n" : "0 0 0 1 1 1 1 1\n";
-    const auto expect_log = [](const std::string& text, int status, const std::string& line) {
-      const run_directory directory;
-      directory.deck(text);
-      EXPECT_EQ(directory.run(), status);
-      EXPECT_NE(directory.read("TERVAK.MLG").find(line), std::string::npos) << directory.read("TERVAK.MLG");
-    };
-    const std::string factors = table("MODIFY") + "1 2 2.0" + values;
-    expect_log(deck + factors + closed, 0, "NORMAL EXIT");
-    expect_log(deck + factors + "1 2 1.0" + values, 1,
-               " **** SR/READG3 : " + family + " MODIF ROW NOT USED  NOW,L1,L2=    2    1    2\r\n");
-    const std::string last = table("MANUAL") + curves;
-    expect_log(
-        with(deck, last, last + "AT 3 1.5\n0 0\n9 1\n"), 1,
-        " **** SR/READG3 : MANUAL " + family + " CURVE NOT USED  NUM,LAY,DIA=    5    3     1.500\r\n");
-  }
-}
-
 TEST(BadInput, ADirectoryInPlaceOfTheDeckIsRefused) {
   const run_directory directory;
   fs::create_directory(directory / "TERVAK.INP");

@@ -35,7 +35,7 @@ class run_directory : public work_directory {
 
   /// Runs the program here and returns its exit status, as the shell sees it (-1 is 255). Standard output and
   /// error go to the files "stdout" and "stderr". `as_user` runs it without the powers of root.
-  int run(bool as_user = false) const {
+  int run(bool as_user = false, const std::string& arguments = "") const {
     const std::filesystem::path program = path_.string() + "-program";
     if (as_user) {  // a copy that everybody can reach
       std::filesystem::copy_file(TERVAK_PROGRAM, program, std::filesystem::copy_options::overwrite_existing);
@@ -46,8 +46,8 @@ class run_directory : public work_directory {
     const std::string command =
         "cd " + path_.string() + " && " +
         (as_user && geteuid() == 0 ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "") +
-        (as_user ? program.string() : std::string(TERVAK_PROGRAM)) + " >" + redirect("stdout") + " 2>" +
-        redirect("stderr");
+        (as_user ? program.string() : std::string(TERVAK_PROGRAM)) + arguments + " >" + redirect("stdout") +
+        " 2>" + redirect("stderr");
     const int status = std::system(command.c_str());
     if (as_user) std::filesystem::remove(program);
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
