@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "companion/interface_file.hpp"
 #include "companion/results.hpp"
 #include "Platform/files.hpp"
 #include "support/work_directory.hpp"
@@ -90,6 +91,20 @@ TEST_F(Results, AChangedOrRefusedDeck) {
   EXPECT_FALSE(results_of(".", TERVAK_PROGRAM).whole());
   EXPECT_NE(text_of(results_of("nowhere", TERVAK_PROGRAM)).find("cannot be told: nowhere/TERVAK.INP"),
             std::string::npos);
+}
+
+TEST(InterfaceFile, NumbersThatAreNoneAndAMissingEnd) {
+  const auto fault = [](const std::string& name, const std::string& last) {
+    return tervak::companion::summary_of_interface_file(
+               "DATE      1.0\n INF\n NAN\n INF\n NAN\nTSOILPRF  4.00000000E+00\n        INF\n        NAN\nRVSOILPY" +
+               name + "\n" + last)
+        .fault;
+  };
+  const std::string number = "  1.00000000E+00", end = "IEND      0.0\n";
+  EXPECT_EQ(fault(number + number, end), "");
+  EXPECT_EQ(fault(number + "             NAN", end), "line 9, column 25: NAN is no number");
+  EXPECT_EQ(fault("            -INF", end), "line 9, column 9: INF is no number");
+  EXPECT_EQ(fault(number, ""), "has no closing record IEND");
 }
 
 }  // namespace
