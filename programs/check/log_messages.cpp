@@ -68,6 +68,28 @@ bool read_refusal(std::string_view line, log_message& message) {
   return take_number(message.line) && take_number(message.column);
 }
 
+/// A message of the catalogue, taken apart.
+struct pattern {
+  const known_message* row;
+  std::size_t variant;
+  std::vector<std::string_view> records;
+  std::size_t length;
+};
+
+const std::vector<pattern>& patterns() {
+  static const std::vector<pattern> all = [] {
+    std::vector<pattern> list;
+    for (const message_section& section : message_sections())
+      for (const known_message& row : *section.messages) {
+        const auto variants = split(row.text, '|');
+        for (std::size_t i = 0; i < variants.size(); ++i)
+          list.push_back({&row, i, split(variants[i], '\n'), variants[i].size()});
+      }
+    return list;
+  }();
+  return all;
+}
+
 class log_reader {
  public:
   explicit log_reader(std::string_view text);
@@ -77,8 +99,7 @@ class log_reader {
   void read_message();
   [[nodiscard]] bool read_refused();
   [[nodiscard]] bool read_known();
-  [[nodiscard]] std::optional<std::size_t> match(const known_message& row, std::size_t variant,
-                                                 std::vector<double>& numbers) const;
+  [[nodiscard]] std::optional<std::size_t> match(const pattern& p, std::vector<double>& numbers) const;
 
   std::vector<std::string> lines_;
   std::size_t now_ = 0;
@@ -147,11 +168,10 @@ bool log_reader::read_refused() {
 }
 
 /// How many lines the message takes; none where it is another one.
-std::optional<std::size_t> log_reader::match(const known_message& row, std::size_t variant,
-                                             std::vector<double>& numbers) const {
+std::optional<std::size_t> log_reader::match(const pattern& p, std::vector<double>& numbers) const {
   std::size_t at = now_;
   numbers.clear();
-  for (const std::string_view record : split(split(row.text, '|')[variant], '\n')) {
+  for (const std::string_view record : p.records) {
     // Free text may be blank; the other records may have blank lines before them.
     if (record != "%t")
       while (at < lines_.size() && lines_[at].empty()) ++at;
@@ -165,26 +185,20 @@ bool log_reader::read_known() {
   log_message best;
   std::size_t taken = 0, weight = 0;
   const known_message* before = log_.messages.empty() ? nullptr : log_.messages.back().known;
-  for (const message_section& section : message_sections())
-    for (const known_message& row : *section.messages) {
-      const std::size_t variants =
-          static_cast<std::size_t>(std::count(row.text.begin(), row.text.end(), '|')) + 1;
-      for (std::size_t variant = 0; variant < variants; ++variant) {
-        std::vector<double> numbers;
-        const auto lines = match(row, variant, numbers);
-        if (!lines) continue;
-        // The more lines and the more of their text, the surer; what goes on from the line above takes
-        // precedence.
-        const std::size_t now =
-            (&row == before ? 100'000 : 0) + *lines * 1000 + split(row.text, '|')[variant].size();
-        if (now <= weight) continue;
-        weight = now;
-        taken = *lines;
-        best.known = &row;
-        best.variant = variant;
-        best.numbers = std::move(numbers);
-      }
-    }
+  std::vector<double> numbers;
+  for (const pattern& p : patterns()) {
+    const auto lines = match(p, numbers);
+    if (!lines) continue;
+    // The more lines and the more of their text, the surer; what goes on from the line above takes
+    // precedence.
+    const std::size_t now = (p.row == before ? 100'000 : 0) + *lines * 1000 + p.length;
+    if (now <= weight) continue;
+    weight = now;
+    taken = *lines;
+    best.known = p.row;
+    best.variant = p.variant;
+    best.numbers = numbers;
+  }
   if (!best.known) return false;
   best.kind = kind_of(*best.known);
   best.profile = profile_;

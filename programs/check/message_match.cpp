@@ -28,6 +28,8 @@ bool take_number(std::string_view& line, bool whole, std::vector<double>& number
   std::string_view digits = line;
   if (whole) {
     const auto end = digits.find_first_not_of("0123456789", digits.substr(0, 1) == "-" ? 1 : 0);
+    const std::string_view rest = digits.substr(std::min(end, digits.size()));
+    if (rest.size() > 1 && rest[0] == '.' && rest[1] >= '0' && rest[1] <= '9') return false;
     digits = digits.substr(0, end);
   }
   double value = 0;

@@ -22,14 +22,14 @@ void never_run(const profile_view& profile, const rule_hit& hit) {
 }
 
 /// The program uses ten characters of a label.
-std::string label(const Tervak& profile) { return profile.data.Boring.substr(0, 10); }
+std::string_view label(const Tervak& profile) { return std::string_view(profile.data.Boring).substr(0, 10); }
 
 void equal_boring(const profile_view& profile, const rule_hit& hit) {
   if (!profile.revision5() || label(profile.profile()).empty()) return;
   for (std::size_t i = 0; i < profile.index(); ++i)
     if (profile.deck()[i].version == 5 && label(profile.deck()[i]) == label(profile.profile()))
-      return hit({"BORING"},
-                 "BORING is \"" + label(profile.profile()) + "\" as in profile " + std::to_string(i + 1));
+      return hit({"BORING"}, "BORING is \"" + std::string(label(profile.profile())) + "\" as in profile " +
+                                 std::to_string(i + 1));
 }
 
 constexpr rule RULES[] = {

@@ -35,7 +35,8 @@ void point_at_strength(const soil& s, bool stronger, const rule_hit& hit) {
 
 void strength_high(const profile_view& profile, const rule_hit& hit) {
   for (const soil& s : profile.soils())
-    if (s.clay && std::any_of(s.su.begin(), s.su.end(), [](double su) { return su > 1000; }))
+    if (s.clay && s.uses_strength() &&
+        std::any_of(s.su.begin(), s.su.end(), [](double su) { return su > 1000; }))
       point_at_strength(s, true, hit);
 }
 
@@ -49,7 +50,7 @@ void strength_low(const profile_view& profile, const rule_hit& hit) {
 void strength_swapped(const profile_view& profile, const rule_hit& hit) {
   if (!profile.revision5()) return;
   for (const soil& s : profile.soils())
-    if (s.clay && s.su_top > 1.25 * s.su_bottom)
+    if (s.clay && s.uses_strength() && s.su_top > 1.25 * s.su_bottom)
       hit({s.table, s.row, "SUTOP"}, value_is("SUTOP", s.su_top) + ", " + value_is("SUBOT", s.su_bottom));
 }
 

@@ -9,7 +9,7 @@ namespace Vrsk::Plin::TervakExchange {
 
 namespace {
 
-using D = TervakInputData;
+using input_data = TervakInputData;
 
 template <auto Section>
 constexpr auto records() {
@@ -22,12 +22,15 @@ constexpr auto flag() {
 bool* no_flag(Tervak&) { return nullptr; }
 
 constexpr deck_curves CURVES[] = {
-    {"MANUALPY", "stress", "displacement", records<&D::ManualPy>(), no_flag},
-    {"MANUALTZ", "stress", "displacement", records<&D::ManualTz>(), no_flag},
-    {"MANUALQZ", "stress", "displacement", records<&D::ManualQz>(), no_flag},
-    {"MANUALMTHETA", "moment", "rotation", records<&D::ManualMtheta>(), flag<&ControlSection::DMData>()},
-    {"MANUALBSY", "force", "displacement", records<&D::ManualBSY>(), flag<&ControlSection::BSData>()},
-    {"MANUALBMTHETA", "moment", "rotation", records<&D::ManualBMtheta>(), flag<&ControlSection::BMData>()},
+    {"MANUALPY", "stress", "displacement", records<&input_data::ManualPy>(), no_flag},
+    {"MANUALTZ", "stress", "displacement", records<&input_data::ManualTz>(), no_flag},
+    {"MANUALQZ", "stress", "displacement", records<&input_data::ManualQz>(), no_flag},
+    {"MANUALMTHETA", "moment", "rotation", records<&input_data::ManualMtheta>(),
+     flag<&ControlSection::DMData>()},
+    {"MANUALBSY", "force", "displacement", records<&input_data::ManualBSY>(),
+     flag<&ControlSection::BSData>()},
+    {"MANUALBMTHETA", "moment", "rotation", records<&input_data::ManualBMtheta>(),
+     flag<&ControlSection::BMData>()},
 };
 
 }  // namespace

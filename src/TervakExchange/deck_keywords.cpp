@@ -14,7 +14,8 @@ std::vector<deck_keyword> all_keywords() {
     keywords.push_back({scalar.name, scalar.revision, scalar.required, &scalar});
   for (const deck_table* table : deck_tables())
     keywords.push_back({table->name(), table->revision(), table->required(), table});
-  for (const deck_curves& curves : deck_curves_tables()) keywords.push_back({curves.name, 0, false, &curves});
+  for (const deck_curves& curves : deck_curves_tables())
+    keywords.push_back({curves.name, BOTH, OPTIONAL, &curves});
   return keywords;
 }
 

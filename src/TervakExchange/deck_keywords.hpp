@@ -13,12 +13,12 @@ namespace Vrsk::Plin::TervakExchange {
 /// A word that may open a line of a profile. AT and END are not among them.
 struct deck_keyword {
   std::string_view name;
-  int revision = 0;  ///< 4 or 5; 0 = both
-  bool required = false;
+  int revision = BOTH;  ///< 4, 5 or BOTH
+  bool required = OPTIONAL;
   std::variant<const deck_scalar*, const deck_table*, const deck_curves*> what;
 
   [[nodiscard]] bool belongs_to(int profile_revision) const {
-    return revision == 0 || profile_revision == 0 || revision == profile_revision;
+    return revision == BOTH || profile_revision == 0 || revision == profile_revision;
   }
 };
 

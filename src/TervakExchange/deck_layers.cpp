@@ -9,11 +9,6 @@ namespace {
 constexpr int MOST_LAYERS = 500;
 constexpr std::size_t MOST_DIAMETERS = 50;
 
-bool read_whole(const profile_draft& draft, std::string_view keyword) {
-  const keyword_use& use = draft.use(keyword);
-  return use.given && !use.faulty && !use.cut;
-}
-
 bool add_layers(deck_layers& layers, int number, const std::array<int, 3>& codes) {
   if (number < 1 || number > MOST_LAYERS - layers.count()) return false;
   layers.codes.insert(layers.codes.end(), static_cast<std::size_t>(number), codes);
@@ -24,7 +19,7 @@ bool add_layers(deck_layers& layers, int number, const std::array<int, 3>& codes
 bool count_revision4(const profile_draft& draft, deck_layers& layers) {
   const TervakInputData& data = draft.profile.data;
   const keyword_use& count = draft.use("NUMLAY");
-  if (count.faulty || count.meant || !read_whole(draft, "LAYERS")) return false;
+  if (count.faulty || count.meant || !draft.use("LAYERS").read_whole()) return false;
   for (const LayerRecord& row : data.Layers) {
     if (row.FirstLayer != layers.count() + 1 || row.LastLayer < row.FirstLayer || row.LastLayer > MOST_LAYERS)
       return false;
@@ -39,7 +34,7 @@ bool count_revision5(const profile_draft& draft, deck_layers& layers) {
   const TervakInputData& data = draft.profile.data;
   const keyword_use& pile = draft.use("NUMPIL");
   if (pile.faulty || pile.meant || data.Subdivision.NumberOfPile != 0) return false;
-  if (!read_whole(draft, "SUBDIVISION") || !read_whole(draft, "MAINLAYERS")) return false;
+  if (!draft.use("SUBDIVISION").read_whole() || !draft.use("MAINLAYERS").read_whole()) return false;
   int number = 0;
   for (const SoilMainLayerRecord& row : data.MainLayers.Records)
     if (row.Number != ++number) return false;
@@ -66,7 +61,7 @@ std::optional<deck_layers> known_layers(const profile_draft& draft) {
   const TervakInputData& data = draft.profile.data;
   deck_layers layers;
   layers.diameters = data.Diameters;
-  if (!read_whole(draft, "DIAM") || layers.diameters.empty() || layers.diameters.size() > MOST_DIAMETERS)
+  if (!draft.use("DIAM").read_whole() || layers.diameters.empty() || layers.diameters.size() > MOST_DIAMETERS)
     return std::nullopt;
   if (data.UnitM > 0) layers.run_length = data.UnitM;
   const bool known = draft.profile.version == 4   ? count_revision4(draft, layers)

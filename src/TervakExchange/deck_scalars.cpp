@@ -9,8 +9,7 @@ namespace Vrsk::Plin::TervakExchange {
 
 namespace {
 
-using D = TervakInputData;
-using T = Tervak;
+using input_data = TervakInputData;
 
 /// The member at the end of a path of members, as a place to read into.
 template <auto... Path>
@@ -19,60 +18,60 @@ constexpr auto at() {
 }
 template <auto... Path>
 constexpr auto data() {
-  return at<&T::data, Path...>();
+  return at<&Tervak::data, Path...>();
 }
-
-constexpr int BOTH = 0;
-constexpr bool REQUIRED = true, OPTIONAL = false;
 
 constexpr deck_scalar SCALARS[] = {
     {"REVISION", BOTH, REQUIRED, 0, special_scalar::revision},
     {"BORING", 5, OPTIONAL, 0, special_scalar::boring},
-    {"UNITF", BOTH, OPTIONAL, 1, data<&D::UnitF>()},
-    {"UNITM", BOTH, OPTIONAL, 1, data<&D::UnitM>()},
-    {"MIDBOT", 4, REQUIRED, 0, data<&D::LevelSwitch>()},
-    {"GAMWAT", BOTH, REQUIRED, 0, at<&T::waterUnitWeight>()},
-    {"ATMPRS", BOTH, REQUIRED, 0, data<&D::AtmosphericPressure>()},
-    {"ZCYCL", BOTH, REQUIRED, 0, at<&T::lowestLevelWithCyclicPY>()},
-    {"SUSTIF", BOTH, REQUIRED, 0, at<&T::lowestShearStiff>()},
-    {"JPRINT", BOTH, OPTIONAL, 1, data<&D::PrintLevel>()},
-    {"JECHO", BOTH, OPTIONAL, 0, data<&D::EchoSwitch>()},
-    {"SFTPHI", BOTH, OPTIONAL, 1, at<&T::tanPhiCoeff>()},
-    {"SFSU", BOTH, OPTIONAL, 1, at<&T::shearStrengthCoeff>()},
-    {"SFSKF", BOTH, OPTIONAL, 1, at<&T::skinFrictionCoeff>()},
-    {"SFSIGT", BOTH, OPTIONAL, 1, at<&T::pileTipResistanceCoeff>()},
+    {"UNITF", BOTH, OPTIONAL, 1, data<&input_data::UnitF>()},
+    {"UNITM", BOTH, OPTIONAL, 1, data<&input_data::UnitM>()},
+    {"MIDBOT", 4, REQUIRED, 0, data<&input_data::LevelSwitch>()},
+    {"GAMWAT", BOTH, REQUIRED, 0, at<&Tervak::waterUnitWeight>()},
+    {"ATMPRS", BOTH, REQUIRED, 0, data<&input_data::AtmosphericPressure>()},
+    {"ZCYCL", BOTH, REQUIRED, 0, at<&Tervak::lowestLevelWithCyclicPY>()},
+    {"SUSTIF", BOTH, REQUIRED, 0, at<&Tervak::lowestShearStiff>()},
+    {"JPRINT", BOTH, OPTIONAL, 1, data<&input_data::PrintLevel>()},
+    {"JECHO", BOTH, OPTIONAL, 0, data<&input_data::EchoSwitch>()},
+    {"SFTPHI", BOTH, OPTIONAL, 1, at<&Tervak::tanPhiCoeff>()},
+    {"SFSU", BOTH, OPTIONAL, 1, at<&Tervak::shearStrengthCoeff>()},
+    {"SFSKF", BOTH, OPTIONAL, 1, at<&Tervak::skinFrictionCoeff>()},
+    {"SFSIGT", BOTH, OPTIONAL, 1, at<&Tervak::pileTipResistanceCoeff>()},
     {"DIAM", BOTH, REQUIRED, 0, special_scalar::diameters},
-    {"ESOL0", BOTH, REQUIRED, 0, at<&T::modulusOfElasticity>()},
-    {"ESOL1", BOTH, REQUIRED, 0, at<&T::modulusOfElasticitySlope>()},
-    {"ESOL2", 5, OPTIONAL, 1, data<&D::ThirdModulus>()},
-    {"POSAVR", BOTH, REQUIRED, 0, at<&T::averagePoissonRatio>()},
-    {"ZSEAFL", BOTH, REQUIRED, 0, at<&T::zSeafloor>()},
-    {"SCRGEN", BOTH, OPTIONAL, 0, at<&T::depthOfScour>()},
-    {"SCRLOC", BOTH, OPTIONAL, 0, at<&T::depthOfLocalScour>()},
-    {"SCRSLP", BOTH, OPTIONAL, 0, at<&T::sideSlope>()},
-    {"ZPWP", BOTH, REQUIRED, 0, data<&D::PorePressureLevel>()},
-    {"GAMPWP", BOTH, REQUIRED, 0, data<&D::PorePressureUnitWeight>()},
-    {"SIGSUR", BOTH, OPTIONAL, 0, at<&T::verticalStressAtSurface>()},
-    {"SIGEMB", BOTH, OPTIONAL, 0, at<&T::verticalStressUnderEmbankment>()},
-    {"AEMB", BOTH, OPTIONAL, 0, at<&T::widthOfEmbankmentSlopingPart>()},
-    {"BEMB", BOTH, OPTIONAL, 0, at<&T::distancePileToEmbankmentToe>()},
-    {"SIGCIR", BOTH, OPTIONAL, 0, at<&T::verticalStressUnderCircularLoadedArea>()},
-    {"RADCIR", BOTH, OPTIONAL, 0, at<&T::radiusOfCircularLoadedArea>()},
-    {"ZONINF", 4, REQUIRED, 0, data<&D::ZonInf>()},
-    {"RFTZ", 4, REQUIRED, 0, data<&D::RfTz>()},
-    {"DIAMP", 5, REQUIRED, 0, data<&D::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::PileDiameter>()},
-    {"WALL", 5, REQUIRED, 0, data<&D::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::WallThickness>()},
-    {"ZTIP", 5, REQUIRED, 0, data<&D::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::PileTipZ>()},
+    {"ESOL0", BOTH, REQUIRED, 0, at<&Tervak::modulusOfElasticity>()},
+    {"ESOL1", BOTH, REQUIRED, 0, at<&Tervak::modulusOfElasticitySlope>()},
+    {"ESOL2", 5, OPTIONAL, 1, data<&input_data::ThirdModulus>()},
+    {"POSAVR", BOTH, REQUIRED, 0, at<&Tervak::averagePoissonRatio>()},
+    {"ZSEAFL", BOTH, REQUIRED, 0, at<&Tervak::zSeafloor>()},
+    {"SCRGEN", BOTH, OPTIONAL, 0, at<&Tervak::depthOfScour>()},
+    {"SCRLOC", BOTH, OPTIONAL, 0, at<&Tervak::depthOfLocalScour>()},
+    {"SCRSLP", BOTH, OPTIONAL, 0, at<&Tervak::sideSlope>()},
+    {"ZPWP", BOTH, REQUIRED, 0, data<&input_data::PorePressureLevel>()},
+    {"GAMPWP", BOTH, REQUIRED, 0, data<&input_data::PorePressureUnitWeight>()},
+    {"SIGSUR", BOTH, OPTIONAL, 0, at<&Tervak::verticalStressAtSurface>()},
+    {"SIGEMB", BOTH, OPTIONAL, 0, at<&Tervak::verticalStressUnderEmbankment>()},
+    {"AEMB", BOTH, OPTIONAL, 0, at<&Tervak::widthOfEmbankmentSlopingPart>()},
+    {"BEMB", BOTH, OPTIONAL, 0, at<&Tervak::distancePileToEmbankmentToe>()},
+    {"SIGCIR", BOTH, OPTIONAL, 0, at<&Tervak::verticalStressUnderCircularLoadedArea>()},
+    {"RADCIR", BOTH, OPTIONAL, 0, at<&Tervak::radiusOfCircularLoadedArea>()},
+    {"ZONINF", 4, REQUIRED, 0, data<&input_data::ZonInf>()},
+    {"RFTZ", 4, REQUIRED, 0, data<&input_data::RfTz>()},
+    {"DIAMP", 5, REQUIRED, 0,
+     data<&input_data::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::PileDiameter>()},
+    {"WALL", 5, REQUIRED, 0,
+     data<&input_data::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::WallThickness>()},
+    {"ZTIP", 5, REQUIRED, 0,
+     data<&input_data::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::PileTipZ>()},
     {"MATPIL", 5, REQUIRED, 0,
-     data<&D::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::PileMaterial>()},
+     data<&input_data::SkinFriction, &SkinFrictionAndTipResistanceSectionV5::PileMaterial>()},
     {"NUMPIL", 5, OPTIONAL, 0,
-     data<&D::Subdivision, &MainLayersSubdivisionAndPyTzQzCodesSection::NumberOfPile>()},
+     data<&input_data::Subdivision, &MainLayersSubdivisionAndPyTzQzCodesSection::NumberOfPile>()},
     // When one of these counts is left out, the rows are counted once the profile is complete.
-    {"NUMTYP", 4, OPTIONAL, 0, data<&D::NumberOfSoilTypes>()},
-    {"NUMTQZ", 4, OPTIONAL, 0, data<&D::NumberOfTzQzRows>()},
-    {"NUMLAY", 4, OPTIONAL, 0, data<&D::NumberOfLayers>()},
-    {"NUMLAYM", 5, OPTIONAL, 0, data<&D::NumberOfMainLayers>()},
-    {"NUMDSP", BOTH, OPTIONAL, 0, data<&D::NumberOfDisplacements>()},
+    {"NUMTYP", 4, OPTIONAL, 0, data<&input_data::NumberOfSoilTypes>()},
+    {"NUMTQZ", 4, OPTIONAL, 0, data<&input_data::NumberOfTzQzRows>()},
+    {"NUMLAY", 4, OPTIONAL, 0, data<&input_data::NumberOfLayers>()},
+    {"NUMLAYM", 5, OPTIONAL, 0, data<&input_data::NumberOfMainLayers>()},
+    {"NUMDSP", BOTH, OPTIONAL, 0, data<&input_data::NumberOfDisplacements>()},
 };
 
 void read_revision(const deck_field& field, Tervak& profile, deck_faults& faults) {

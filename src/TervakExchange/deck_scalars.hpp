@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "TervakExchange/deck_lines.hpp"
+#include "TervakExchange/deck_revisions.hpp"
 #include "TervakExchange/Tervak.hpp"
 
 namespace Vrsk::Plin::TervakExchange {
@@ -18,8 +19,8 @@ struct deck_scalar {
   using integer_place = int& (*)(Tervak&);
 
   std::string_view name;
-  int revision = 0;  ///< 4 or 5; 0 = both
-  bool required = false;
+  int revision = BOTH;  ///< 4, 5 or BOTH
+  bool required = OPTIONAL;
   double standard = 0;  ///< the value when it is left out
   std::variant<number_place, integer_place, special_scalar> place;
 };

@@ -35,9 +35,7 @@ constexpr auto records() {
   return +[](Tervak& profile, const R& record) { (profile.data.*Section).Records.push_back(record); };
 }
 
-using D = TervakInputData;
-constexpr int BOTH = 0;
-constexpr bool REQUIRED = true, OPTIONAL = false;
+using input_data = TervakInputData;
 
 const deck_table_of<point_load> POINTLOADS{
     "POINTLOADS",
@@ -49,171 +47,175 @@ const deck_table_of<point_load> POINTLOADS{
       profile.data.PointLoadDistances.push_back(row.distance);
     }};
 
-using S = SoilTypeRecord;
-const deck_table_of<S> SOILTYPES{"SOILTYPES",
-                                 4,
-                                 REQUIRED,
-                                 {{"number", in<&S::Number>()},
-                                  {"GAMTOT", in<&S::TotalUnitWeight>()},
-                                  {"PHI", in<&S::FrictionAngle>()},
-                                  {"SU0", in<&S::SuAtZ0>()},
-                                  {"SU100", in<&S::SuAtZ100>()},
-                                  {"EPS50", in<&S::Eps50>()},
-                                  {"OCR", in<&S::Ocr>()},
-                                  {"APIJ", in<&S::ApiJ>()},
-                                  {"OPEN", in<&S::OpenCrack>()},
-                                  {"TRESMX", in<&S::ResidualRatio>()},
-                                  {"TZZRES", in<&S::ResidualDisplacement>()}},
-                                 records<&D::SoilTypes, S>()};
+using soil_type = SoilTypeRecord;
+const deck_table_of<soil_type> SOILTYPES{"SOILTYPES",
+                                         4,
+                                         REQUIRED,
+                                         {{"number", in<&soil_type::Number>()},
+                                          {"GAMTOT", in<&soil_type::TotalUnitWeight>()},
+                                          {"PHI", in<&soil_type::FrictionAngle>()},
+                                          {"SU0", in<&soil_type::SuAtZ0>()},
+                                          {"SU100", in<&soil_type::SuAtZ100>()},
+                                          {"EPS50", in<&soil_type::Eps50>()},
+                                          {"OCR", in<&soil_type::Ocr>()},
+                                          {"APIJ", in<&soil_type::ApiJ>()},
+                                          {"OPEN", in<&soil_type::OpenCrack>()},
+                                          {"TRESMX", in<&soil_type::ResidualRatio>()},
+                                          {"TZZRES", in<&soil_type::ResidualDisplacement>()}},
+                                         records<&input_data::SoilTypes, soil_type>()};
 
-using Q = TzQzRecord;
-const deck_table_of<Q> TZQZTABLE{"TZQZTABLE",
-                                 4,
-                                 REQUIRED,
-                                 {{"ZTQZ", in<&Q::Z>()},
-                                  {"TCMP", in<&Q::SkinFrictionCompression>()},
-                                  {"TTNS", in<&Q::SkinFrictionTension>()},
-                                  {"G0SOIL", in<&Q::ShearModulus>()},
-                                  {"TZDRAT", in<&Q::TzDisplacementRatio>()},
-                                  {"SIGTIP", in<&Q::TipStress>()},
-                                  {"POIS", in<&Q::PoissonRatio>()},
-                                  {"QZDRAT", in<&Q::QzDisplacementRatio>()}},
-                                 list<&D::TzQzTable, Q>()};
+using tz_qz = TzQzRecord;
+const deck_table_of<tz_qz> TZQZTABLE{"TZQZTABLE",
+                                     4,
+                                     REQUIRED,
+                                     {{"ZTQZ", in<&tz_qz::Z>()},
+                                      {"TCMP", in<&tz_qz::SkinFrictionCompression>()},
+                                      {"TTNS", in<&tz_qz::SkinFrictionTension>()},
+                                      {"G0SOIL", in<&tz_qz::ShearModulus>()},
+                                      {"TZDRAT", in<&tz_qz::TzDisplacementRatio>()},
+                                      {"SIGTIP", in<&tz_qz::TipStress>()},
+                                      {"POIS", in<&tz_qz::PoissonRatio>()},
+                                      {"QZDRAT", in<&tz_qz::QzDisplacementRatio>()}},
+                                     list<&input_data::TzQzTable, tz_qz>()};
 
-using L = LayerRecord;
-const deck_table_of<L> LAYERS{"LAYERS",
-                              4,
-                              REQUIRED,
-                              {{"L1", in<&L::FirstLayer>()},
-                               {"L2", in<&L::LastLayer>()},
-                               {"TYPE", in<&L::SoilType>()},
-                               {"ZBOTM", in<&L::BottomZ>()},
-                               {"PYCODE", in<&L::PyCode>()},
-                               {"TZCODE", in<&L::TzCode>()},
-                               {"QZCODE", in<&L::QzCode>()}},
-                              list<&D::Layers, L>()};
-
-using M = SoilMainLayerRecord;
-const deck_table_of<M> MAINLAYERS{"MAINLAYERS",
-                                  5,
+using layer = LayerRecord;
+const deck_table_of<layer> LAYERS{"LAYERS",
+                                  4,
                                   REQUIRED,
-                                  {{"number", in<&M::Number>()},
-                                   {"ZMAIN", in<&M::BottomZ>()},
-                                   {"GAMM", in<&M::TotalUnitWeight>()},
-                                   {"CPTTOP", in<&M::CptTop>()},
-                                   {"CPTBOT", in<&M::CptBottom>()},
-                                   {"PHIM", in<&M::FrictionAngle>()},
-                                   {"DRM", in<&M::RelativeDensity>()},
-                                   {"SUTOP", in<&M::SuTop>()},
-                                   {"SUBOT", in<&M::SuBottom>()},
-                                   {"PLIM", in<&M::PlasticityIndex>()},
-                                   {"EPSCM", in<&M::EpsC>()},
-                                   {"APIJM", in<&M::ApiJ>()},
-                                   {"KSOILM", in<&M::KSoil>()}},
-                                  records<&D::MainLayers, M>()};
+                                  {{"L1", in<&layer::FirstLayer>()},
+                                   {"L2", in<&layer::LastLayer>()},
+                                   {"TYPE", in<&layer::SoilType>()},
+                                   {"ZBOTM", in<&layer::BottomZ>()},
+                                   {"PYCODE", in<&layer::PyCode>()},
+                                   {"TZCODE", in<&layer::TzCode>()},
+                                   {"QZCODE", in<&layer::QzCode>()}},
+                                  list<&input_data::Layers, layer>()};
 
-using F = SkinFrictionRecord;
-const deck_table_of<F> SKINFRICTION{"SKINFRICTION",
-                                    5,
-                                    REQUIRED,
-                                    {{"number", in<&F::Number>()},
-                                     {"METHOD", in<&F::Method>()},
-                                     {"TCMTOP", in<&F::CompressionTop>()},
-                                     {"TCMBOT", in<&F::CompressionBottom>()},
-                                     {"TTNTOP", in<&F::TensionTop>()},
-                                     {"TTNBOT", in<&F::TensionBottom>()},
-                                     {"QTPTOP", in<&F::TipTop>()},
-                                     {"QTPBOT", in<&F::TipBottom>()},
-                                     {"GOFAC", in<&F::GoFactor>()},
-                                     {"TRESM", in<&F::ResidualRatio>()},
-                                     {"TZZRSM", in<&F::ResidualDisplacement>()}},
-                                    records<&D::SkinFriction, F>()};
+using main_layer = SoilMainLayerRecord;
+const deck_table_of<main_layer> MAINLAYERS{"MAINLAYERS",
+                                           5,
+                                           REQUIRED,
+                                           {{"number", in<&main_layer::Number>()},
+                                            {"ZMAIN", in<&main_layer::BottomZ>()},
+                                            {"GAMM", in<&main_layer::TotalUnitWeight>()},
+                                            {"CPTTOP", in<&main_layer::CptTop>()},
+                                            {"CPTBOT", in<&main_layer::CptBottom>()},
+                                            {"PHIM", in<&main_layer::FrictionAngle>()},
+                                            {"DRM", in<&main_layer::RelativeDensity>()},
+                                            {"SUTOP", in<&main_layer::SuTop>()},
+                                            {"SUBOT", in<&main_layer::SuBottom>()},
+                                            {"PLIM", in<&main_layer::PlasticityIndex>()},
+                                            {"EPSCM", in<&main_layer::EpsC>()},
+                                            {"APIJM", in<&main_layer::ApiJ>()},
+                                            {"KSOILM", in<&main_layer::KSoil>()}},
+                                           records<&input_data::MainLayers, main_layer>()};
 
-using B = SubdivisionRecord;
-const deck_table_of<B> SUBDIVISION{"SUBDIVISION",
-                                   5,
-                                   REQUIRED,
-                                   {{"number", in<&B::Number>()},
-                                    {"ZMAIN", in<&B::BottomZ>()},
-                                    {"NSUBM", in<&B::Subdivisions>()},
-                                    {"PYCODM", in<&B::PyCode>()},
-                                    {"TZCODM", in<&B::TzCode>()},
-                                    {"QZCODM", in<&B::QzCode>()},
-                                    {"OPENM", in<&B::OpenCrack>()},
-                                    {"P-Y parameter 1", parameter<0>()},
-                                    {"P-Y parameter 2", parameter<1>()},
-                                    {"P-Y parameter 3", parameter<2>()},
-                                    {"P-Y parameter 4", parameter<3>()},
-                                    {"P-Y parameter 5", parameter<4>()}},
-                                   records<&D::Subdivision, B>(),
-                                   5};
+using skin_friction = SkinFrictionRecord;
+const deck_table_of<skin_friction> SKINFRICTION{"SKINFRICTION",
+                                                5,
+                                                REQUIRED,
+                                                {{"number", in<&skin_friction::Number>()},
+                                                 {"METHOD", in<&skin_friction::Method>()},
+                                                 {"TCMTOP", in<&skin_friction::CompressionTop>()},
+                                                 {"TCMBOT", in<&skin_friction::CompressionBottom>()},
+                                                 {"TTNTOP", in<&skin_friction::TensionTop>()},
+                                                 {"TTNBOT", in<&skin_friction::TensionBottom>()},
+                                                 {"QTPTOP", in<&skin_friction::TipTop>()},
+                                                 {"QTPBOT", in<&skin_friction::TipBottom>()},
+                                                 {"GOFAC", in<&skin_friction::GoFactor>()},
+                                                 {"TRESM", in<&skin_friction::ResidualRatio>()},
+                                                 {"TZZRSM", in<&skin_friction::ResidualDisplacement>()}},
+                                                records<&input_data::SkinFriction, skin_friction>()};
 
-using P = PyModificationRecord;
-const deck_table_of<P> MODIFYPY{"MODIFYPY",
-                                BOTH,
-                                OPTIONAL,
-                                {{"L1", in<&P::L1>()},
-                                 {"L2", in<&P::L2>()},
-                                 {"DIAMETER", in<&P::Diameter>()},
-                                 {"PYFSTR", in<&P::PYFSTR>()},
-                                 {"PYFDSP", in<&P::PYFDSP>()},
-                                 {"PYGAP", in<&P::PYGAP>()},
-                                 {"PYLIMS", in<&P::PYLIMS>()},
-                                 {"PYFEND", in<&P::PYFEND>()},
-                                 {"PYDEND", in<&P::PYDEND>()}},
-                                records<&D::PyModification, P>()};
+using subdivision = SubdivisionRecord;
+const deck_table_of<subdivision> SUBDIVISION{"SUBDIVISION",
+                                             5,
+                                             REQUIRED,
+                                             {{"number", in<&subdivision::Number>()},
+                                              {"ZMAIN", in<&subdivision::BottomZ>()},
+                                              {"NSUBM", in<&subdivision::Subdivisions>()},
+                                              {"PYCODM", in<&subdivision::PyCode>()},
+                                              {"TZCODM", in<&subdivision::TzCode>()},
+                                              {"QZCODM", in<&subdivision::QzCode>()},
+                                              {"OPENM", in<&subdivision::OpenCrack>()},
+                                              {"P-Y parameter 1", parameter<0>()},
+                                              {"P-Y parameter 2", parameter<1>()},
+                                              {"P-Y parameter 3", parameter<2>()},
+                                              {"P-Y parameter 4", parameter<3>()},
+                                              {"P-Y parameter 5", parameter<4>()}},
+                                             records<&input_data::Subdivision, subdivision>(),
+                                             5};
 
-using A = AxialModificationRecord;
-const deck_table_of<A> MODIFYTZ{"MODIFYTZ",
-                                BOTH,
-                                OPTIONAL,
-                                {{"L1", in<&A::L1>()},
-                                 {"L2", in<&A::L2>()},
-                                 {"DIAMETER", in<&A::Diameter>()},
-                                 {"TZFPOS", in<&A::FPOS>()},
-                                 {"TZFNEG", in<&A::FNEG>()},
-                                 {"TZFDSP", in<&A::FDSP>()},
-                                 {"TZFEND", in<&A::FEND>()},
-                                 {"TZDEND", in<&A::DEND>()}},
-                                records<&D::TzModification, A>()};
-const deck_table_of<A> MODIFYQZ{"MODIFYQZ",
-                                BOTH,
-                                OPTIONAL,
-                                {{"L1", in<&A::L1>()},
-                                 {"L2", in<&A::L2>()},
-                                 {"DIAMETER", in<&A::Diameter>()},
-                                 {"QZFPOS", in<&A::FPOS>()},
-                                 {"QZFNEG", in<&A::FNEG>()},
-                                 {"QZFDSP", in<&A::FDSP>()},
-                                 {"QZFEND", in<&A::FEND>()},
-                                 {"QZDEND", in<&A::DEND>()}},
-                                records<&D::QzModification, A>()};
+using py_factors = PyModificationRecord;
+const deck_table_of<py_factors> MODIFYPY{"MODIFYPY",
+                                         BOTH,
+                                         OPTIONAL,
+                                         {{"L1", in<&py_factors::L1>()},
+                                          {"L2", in<&py_factors::L2>()},
+                                          {"DIAMETER", in<&py_factors::Diameter>()},
+                                          {"PYFSTR", in<&py_factors::PYFSTR>()},
+                                          {"PYFDSP", in<&py_factors::PYFDSP>()},
+                                          {"PYGAP", in<&py_factors::PYGAP>()},
+                                          {"PYLIMS", in<&py_factors::PYLIMS>()},
+                                          {"PYFEND", in<&py_factors::PYFEND>()},
+                                          {"PYDEND", in<&py_factors::PYDEND>()}},
+                                         records<&input_data::PyModification, py_factors>()};
 
-using U = SoilDisplacementRecord;
-const deck_table_of<U> DISPLACEMENTS{"DISPLACEMENTS",
-                                     BOTH,
-                                     OPTIONAL,
-                                     {{"DSPLEV", in<&U::Z>()},
-                                      {"DSPX", in<&U::X>()},
-                                      {"DSPY", in<&U::Y>()},
-                                      {"DSPZ", in<&U::ZDisplacement>()},
-                                      {"HOLDIA", in<&U::HoleDiameter>()}},
-                                     list<&D::SoilDisplacements, U>()};
+using axial_factors = AxialModificationRecord;
+const deck_table_of<axial_factors> MODIFYTZ{"MODIFYTZ",
+                                            BOTH,
+                                            OPTIONAL,
+                                            {{"L1", in<&axial_factors::L1>()},
+                                             {"L2", in<&axial_factors::L2>()},
+                                             {"DIAMETER", in<&axial_factors::Diameter>()},
+                                             {"TZFPOS", in<&axial_factors::FPOS>()},
+                                             {"TZFNEG", in<&axial_factors::FNEG>()},
+                                             {"TZFDSP", in<&axial_factors::FDSP>()},
+                                             {"TZFEND", in<&axial_factors::FEND>()},
+                                             {"TZDEND", in<&axial_factors::DEND>()}},
+                                            records<&input_data::TzModification, axial_factors>()};
+const deck_table_of<axial_factors> MODIFYQZ{"MODIFYQZ",
+                                            BOTH,
+                                            OPTIONAL,
+                                            {{"L1", in<&axial_factors::L1>()},
+                                             {"L2", in<&axial_factors::L2>()},
+                                             {"DIAMETER", in<&axial_factors::Diameter>()},
+                                             {"QZFPOS", in<&axial_factors::FPOS>()},
+                                             {"QZFNEG", in<&axial_factors::FNEG>()},
+                                             {"QZFDSP", in<&axial_factors::FDSP>()},
+                                             {"QZFEND", in<&axial_factors::FEND>()},
+                                             {"QZDEND", in<&axial_factors::DEND>()}},
+                                            records<&input_data::QzModification, axial_factors>()};
 
-using O = MonopileModificationRecord;
-std::vector<deck_column<O>> monopile_factors(std::string_view force, std::string_view displacement) {
-  return {{"LAY1", in<&O::LAY1>()},
-          {"LAY2", in<&O::LAY2>()},
-          {"DIAMETER", in<&O::Diameter>()},
-          {force, in<&O::ForceFactor>()},
-          {displacement, in<&O::DisplacementFactor>()}};
+using soil_displacement = SoilDisplacementRecord;
+const deck_table_of<soil_displacement> DISPLACEMENTS{
+    "DISPLACEMENTS",
+    BOTH,
+    OPTIONAL,
+    {{"DSPLEV", in<&soil_displacement::Z>()},
+     {"DSPX", in<&soil_displacement::X>()},
+     {"DSPY", in<&soil_displacement::Y>()},
+     {"DSPZ", in<&soil_displacement::ZDisplacement>()},
+     {"HOLDIA", in<&soil_displacement::HoleDiameter>()}},
+    list<&input_data::SoilDisplacements, soil_displacement>()};
+
+using monopile_row = MonopileModificationRecord;
+std::vector<deck_column<monopile_row>> monopile_factors(std::string_view force,
+                                                        std::string_view displacement) {
+  return {{"LAY1", in<&monopile_row::LAY1>()},
+          {"LAY2", in<&monopile_row::LAY2>()},
+          {"DIAMETER", in<&monopile_row::Diameter>()},
+          {force, in<&monopile_row::ForceFactor>()},
+          {displacement, in<&monopile_row::DisplacementFactor>()}};
 }
-const deck_table_of<O> MODIFYMTHETA{"MODIFYMTHETA", BOTH, OPTIONAL, monopile_factors("MFACT", "THETAFACT"),
-                                    records<&D::MthetaModification, O>()};
-const deck_table_of<O> MODIFYBSY{"MODIFYBSY", BOTH, OPTIONAL, monopile_factors("BSFACT", "YFACT"),
-                                 records<&D::BSYModification, O>()};
-const deck_table_of<O> MODIFYBMTHETA{"MODIFYBMTHETA", BOTH, OPTIONAL, monopile_factors("BMFACT", "THETAFACT"),
-                                     records<&D::BMthetaModification, O>()};
+const deck_table_of<monopile_row> MODIFYMTHETA{"MODIFYMTHETA", BOTH, OPTIONAL,
+                                               monopile_factors("MFACT", "THETAFACT"),
+                                               records<&input_data::MthetaModification, monopile_row>()};
+const deck_table_of<monopile_row> MODIFYBSY{"MODIFYBSY", BOTH, OPTIONAL, monopile_factors("BSFACT", "YFACT"),
+                                            records<&input_data::BSYModification, monopile_row>()};
+const deck_table_of<monopile_row> MODIFYBMTHETA{"MODIFYBMTHETA", BOTH, OPTIONAL,
+                                                monopile_factors("BMFACT", "THETAFACT"),
+                                                records<&input_data::BMthetaModification, monopile_row>()};
 
 const deck_table* const TABLES[] = {&POINTLOADS,    &SOILTYPES,    &TZQZTABLE, &LAYERS,       &MAINLAYERS,
                                     &SKINFRICTION,  &SUBDIVISION,  &MODIFYPY,  &MODIFYTZ,     &MODIFYQZ,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "TervakExchange/deck_lines.hpp"
+#include "TervakExchange/deck_revisions.hpp"
 #include "TervakExchange/deck_values.hpp"
 #include "TervakExchange/Tervak.hpp"
 
@@ -30,7 +31,7 @@ class deck_table {
   virtual ~deck_table() = default;
 
   [[nodiscard]] std::string_view name() const { return name_; }
-  [[nodiscard]] int revision() const { return revision_; }  ///< 4 or 5; 0 = both
+  [[nodiscard]] int revision() const { return revision_; }  ///< 4, 5 or BOTH
   [[nodiscard]] bool required() const { return required_; }
   /// Reads a row and appends its record; a row with a fault appends none. True when the row closes its list,
   /// as a row with L1 = 0 does in the lists of P-Y, T-Z and Q-Z factors.

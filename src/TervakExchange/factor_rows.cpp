@@ -185,17 +185,12 @@ void lay_rows(const factor_table<R>& table, keyword_map& map, const std::vector<
   map.records = std::move(origins);
 }
 
-bool read_whole(const profile_draft& draft, std::string_view name) {
-  const keyword_use& use = draft.use(name);
-  return use.given && !use.faulty && !use.cut && use.rows > 0;
-}
-
 /// MODIFYPY, MODIFYTZ or MODIFYQZ.
 template <class R>
 void expand_list(profile_draft& draft, const std::optional<deck_layers>& layers,
                  const std::vector<std::string_view>& lines, deck_faults& faults,
                  const factor_table<R>& table, const R& plain) {
-  if (!read_whole(draft, table.name)) return;
+  if (!draft.use(table.name).read_whole()) return;
   keyword_map& map = draft.map.of(*find_keyword(table.name));
   const std::optional<bool> main = names_main_layers(draft, table.name, lines, faults);
   if (!main || !layers) return;
@@ -211,7 +206,7 @@ void expand_list(profile_draft& draft, const std::optional<deck_layers>& layers,
 void expand_monopile(profile_draft& draft, const std::optional<deck_layers>& layers,
                      const std::vector<std::string_view>& lines, deck_faults& faults,
                      const factor_table<MonopileModificationRecord>& table) {
-  if (!read_whole(draft, table.name)) return;
+  if (!draft.use(table.name).read_whole()) return;
   const keyword_map& map = draft.map.of(*find_keyword(table.name));
   const std::optional<bool> main = names_main_layers(draft, table.name, lines, faults);
   if (!main || !*main || !layers) return;
@@ -228,17 +223,21 @@ void expand_monopile(profile_draft& draft, const std::optional<deck_layers>& lay
 void expand_factors(profile_draft& draft, const std::optional<deck_layers>& layers,
                     const std::vector<std::string_view>& lines, deck_faults& faults) {
   TervakInputData& data = draft.profile.data;
-  using P = PyModificationRecord;
-  using A = AxialModificationRecord;
-  using O = MonopileModificationRecord;
-  expand_list(draft, layers, lines, faults, {"MODIFYPY", data.PyModification.Records, &P::L1, &P::L2},
-              P{1, 1, 0, 1, 1, 0, 1, 1, 1});
-  expand_list(draft, layers, lines, faults, {"MODIFYTZ", data.TzModification.Records, &A::L1, &A::L2},
-              A{1, 1, 0, 1, 1, 1, 1, 1});
-  expand_list(draft, layers, lines, faults, {"MODIFYQZ", data.QzModification.Records, &A::L1, &A::L2},
-              A{1, 1, 0, 1, 0, 1, 1, 1});
+  using py_factors = PyModificationRecord;
+  using axial_factors = AxialModificationRecord;
+  using monopile_factors = MonopileModificationRecord;
+  expand_list(draft, layers, lines, faults,
+              {"MODIFYPY", data.PyModification.Records, &py_factors::L1, &py_factors::L2},
+              py_factors{1, 1, 0, 1, 1, 0, 1, 1, 1});
+  expand_list(draft, layers, lines, faults,
+              {"MODIFYTZ", data.TzModification.Records, &axial_factors::L1, &axial_factors::L2},
+              axial_factors{1, 1, 0, 1, 1, 1, 1, 1});
+  expand_list(draft, layers, lines, faults,
+              {"MODIFYQZ", data.QzModification.Records, &axial_factors::L1, &axial_factors::L2},
+              axial_factors{1, 1, 0, 1, 0, 1, 1, 1});
   const auto monopile = [&](std::string_view name, MonopileModificationSection& section) {
-    expand_monopile(draft, layers, lines, faults, {name, section.Records, &O::LAY1, &O::LAY2});
+    expand_monopile(draft, layers, lines, faults,
+                    {name, section.Records, &monopile_factors::LAY1, &monopile_factors::LAY2});
   };
   monopile("MODIFYMTHETA", data.MthetaModification);
   monopile("MODIFYBSY", data.BSYModification);

@@ -58,7 +58,7 @@ void check_missing(const profile_draft& draft, deck_faults& faults) {
     const keyword_use& use = draft.uses[i];
     // Without a revision nobody knows whether a keyword of one revision is missing.
     const bool needed =
-        keyword.required && (keyword.revision == 0 || keyword.revision == draft.profile.version);
+        keyword.required && (keyword.revision == BOTH || keyword.revision == draft.profile.version);
     if (needed && !use.given && !use.meant)
       faults.add(heading, draft.title() + " has no " + std::string(keyword.name));
   }

@@ -17,6 +17,9 @@ struct keyword_use {
   deck_place place;     ///< of the keyword
   std::size_t curves = 0;  ///< AT lines behind it
   std::size_t rows = 0;    ///< rows behind it, faulty ones too
+
+  /// Whether all its values are known.
+  [[nodiscard]] bool read_whole() const { return given && !faulty && !cut; }
 };
 
 /// A profile as read, and what the checks that concern the whole profile need to know about it.

@@ -60,7 +60,7 @@ inline const char* const REVISION4 =
     "9 25 26 7000 0.04 901 0.36 0.06\n"       // 21
     "LAYERS\n"                                // 22
     "1 4 1 8.5 284 293 200\n"                 // 23
-    "5 12 1 30 287 214 101\n";                  // 24
+    "5 12 1 30 287 214 101\n";                // 24
 
 inline std::vector<Tervak> read(const std::string& deck) {
   std::istringstream stream(deck);

@@ -34,15 +34,18 @@ TEST(DeckLines, Headings) {
   EXPECT_EQ(profiles[1].GetHeader(), " END?! second");
 }
 
-TEST(DeckLines, WordsThatLookLikeEnd) {
-  // Each closes the profile as it was meant to: the profile behind it is judged as the second one.
-  for (const char* word : {"End", "end", "eND"})
-    EXPECT_EQ(places(std::string(REVISION5) + word + "  ! x\nB-7\n" + with(REVISION5, 3, "").substr(10)),
-              "24:1: \"" + std::string(word) +
-                  "\" does not close a profile; write END in columns 1 to 3\n"
-                  "25:1: profile 2 \"B-7\" has no GAMWAT\n");
-  EXPECT_EQ(places(std::string(REVISION5) + " END\n"),
-            "24:2: \"END\" does not close a profile; write END in columns 1 to 3\n");
+TEST(DeckLines, Encodings) {
+  EXPECT_EQ(read("\xEF\xBB\xBF" + std::string(REVISION5)).at(0).GetHeader(), "Heading 5");
+  const std::string utf16 =
+      "1:1: the deck is written in UTF-16, two bytes a character; save it as plain text in UTF-8 (or ANSI), in "
+      "the editor by \"Save as\" and the encoding\n";
+  for (const bool big_endian : {false, true}) {
+    std::string wide;
+    for (const char* c = REVISION5; *c != '\0'; ++c)
+      wide += big_endian ? std::string{'\0', *c} : std::string{*c, '\0'};
+    EXPECT_EQ(places(wide), utf16);
+    EXPECT_EQ(places((big_endian ? "\xFE\xFF" : "\xFF\xFE") + wide), utf16);
+  }
 }
 
 TEST(DeckLines, QuotedLineAndCaret) {
@@ -120,6 +123,9 @@ TEST(DeckLines, LongDecksAndLinesInLinearTime) {
   };
   seconds(rows(1000));
   EXPECT_LT(seconds(rows(20000)), 4 * seconds(rows(10000)) + 0.05);
+  std::string unknown = REVISION5;  // the nearest keyword is sought for those that are shown
+  for (int i = 0; i < 30000; ++i) unknown += "GAMWAT" + std::to_string(i) + "X 1\n";
+  EXPECT_LT(seconds(unknown), 5);
   for (const char* piece : {"x", "1", "1 ", "\t", "\xFF"}) {
     std::string line;
     for (int i = 0; i < 200000; ++i) line += piece;

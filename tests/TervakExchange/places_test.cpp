@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "TervakExchange/deck_reading.hpp"
 #include "TervakExchange/decks.hpp"
 
@@ -41,6 +43,34 @@ TEST(DeckPlaces, EveryValueLeadsBackToItsField) {
   EXPECT_EQ(fields(curve.points[1]), "5@34:2+1 0.1@34:4+3 ");
   EXPECT_EQ(deck.described(curve.line.fields[2].place, "warning: narrow"),
             "my deck.txt:31:6: warning: narrow\n  31 | AT 1 1.2\n     |      ^^^");
+}
+
+// Rows that the reader puts in order or in front, and curves that it expands, lead back to their row.
+TEST(DeckPlaces, RecordsOfMainLayersLeadBackToTheirRows) {
+  std::ifstream file(TERVAK_SOURCE_DIR "/examples/main-layers.inp");
+  const deck_reading deck(file, "main-layers.inp");
+  ASSERT_EQ(deck.refusal("\n"), "");
+  const profile_map& map = deck.maps().at(0);
+  std::string origins;
+  for (const char* table : {"MANUALTZ", "MODIFYPY", "MODIFYTZ", "MANUALMTHETA", "MODIFYMTHETA"}) {
+    origins += table;
+    for (std::size_t i = 1; !deck.row(map, table, i).line.fields.empty(); ++i) {
+      const deck_row row = deck.row(map, table, i);
+      origins += " " + std::to_string(row.line.fields[0].place.line) + "wea"[static_cast<int>(row.kind)];
+    }
+    origins += '\n';
+  }
+  EXPECT_EQ(origins,
+            "MANUALTZ 35e 39e 35e 39e 35e 39e\n"
+            "MODIFYPY 45a 45w 46w\n"
+            "MODIFYTZ 48a 48w\n"
+            "MANUALMTHETA 51e 51e 51e 51e 51e 51e 51e 51e\n"
+            "MODIFYMTHETA 56w\n");
+  EXPECT_EQ(deck.row(map, "MANUALTZ", 2).points.at(1).fields.at(1).text, "0.012");
+  const TervakInputData& data = deck.profiles().at(0).data;
+  EXPECT_EQ(data.PyModification.Records.at(0).L2, 3);
+  EXPECT_EQ(data.ManualTz.Records.at(3).Diameter, 1.8);
+  EXPECT_EQ(data.ManualMtheta.Records.at(7).Layer, 12);
 }
 
 TEST(DeckPlaces, AFaultyDeckHasItsNameInTheTexts) {
