@@ -34,8 +34,9 @@ struct results {
 /// - the USFOS export alone failed, as it does above 5,000 materials: then the log, the listing and a
 ///   TERVAK.RIF that holds all profiles are whole, and of the exports those without an error; or
 /// - the run ended in another way, and the file is the log.
-/// The second run does not get what is loaded into the first before all libraries (LD_PRELOAD): what bends the
-/// one must not bend the other alike. Writes nothing in DIRECTORY. Does not throw: what keeps it from a verdict is told by `trouble`.
+/// The second run does not get what is loaded into the first before all libraries (LD_PRELOAD): what bends
+/// the one must not bend the other alike. Writes nothing in DIRECTORY. Does not throw: what keeps it from a
+/// verdict is told by `trouble`.
 results results_of(const std::filesystem::path& directory, const std::filesystem::path& program);
 
 /// One line a file, "  TERVAK.RIF: whole" or "  TERVAK.RIF: not whole: " and the reason; or the trouble.
