@@ -51,10 +51,10 @@ class broken_run {
 
   [[nodiscard]] std::string fault(const std::string& name, const std::string& bytes) const {
     if (name == "TERVAK.MLG") return {};
-    const std::string cause = "the run ended with " + ending_;
+    std::string cause = "the run ended with " + ending_;
     if (!export_alone_) return cause;
     if (name.ends_with(".fem")) return export_fault(bytes);
-    const std::string fault = own_fault(name, bytes);
+    std::string fault = own_fault(name, bytes);
     if (!fault.empty() || name != "TERVAK.RIF") return fault;
     const std::size_t profiles = summary_of_interface_file(bytes).profiles;
     return profiles == profiles_ ? ""

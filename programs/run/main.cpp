@@ -104,6 +104,7 @@ void run_words(const std::vector<std::string>& words, int& status) {
 int main(int count, char** words) {
   int status = NOT_STARTED;
   try {
+    os::hold_standard_streams();
     os::catch_interrupts();
     run_words({words + 1, words + count}, status);
   } catch (const std::exception& error) {

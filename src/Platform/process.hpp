@@ -32,6 +32,10 @@ std::filesystem::path own_program();
 /// running program or else on the path; empty where there is none.
 std::filesystem::path find_program(const std::string& name);
 
+/// Opens what is closed of standard input, output and error, so that no file of the program takes their
+/// place. Writing there fails as before.
+void hold_standard_streams();
+
 /// From here on a request to end (hangup, interrupt, termination) is passed on to the program that runs, and
 /// remembered, so that this process can remove what it made. A closed output gives a failed write, no end.
 void catch_interrupts();

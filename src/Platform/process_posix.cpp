@@ -154,6 +154,11 @@ fs::path find_program(const std::string& name) {
   return {};
 }
 
+void hold_standard_streams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+    if (fcntl(stream, F_GETFD) < 0) static_cast<void>(open("/dev/null", O_RDONLY));
+}
+
 void catch_interrupts() {
   std::signal(SIGPIPE, SIG_IGN);
   for (const int number : REQUESTS) {

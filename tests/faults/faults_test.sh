@@ -58,7 +58,7 @@ one() { # worker, fault
   status=$?
   judge "$2" "$directory" $status "$answer"
   case $2 in
-    *malloc*) rm -rf "$TMPDIR/$1"/* ;;
+    *malloc*) rm -rf "${TMPDIR:?}/$1"/* ;;
     *) [ -z "$(echo "$TMPDIR/$1"/*)" ] || [ "$(echo "$TMPDIR/$1"/*)" = "$TMPDIR/$1/*" ] || echo "$2: a scratch directory is left" ;;
   esac
   echo "status $status"
@@ -90,7 +90,8 @@ if [ "$(id -u)" = 0 ] && mkdir full && mount -t tmpfs -o size=64k none full 2>/d
   for ((k = 32; k < 3 * size; k += size / 8)); do
     mount -o "remount,size=${k}k" none full
     # A disk that does not even hold what was there before tells nothing.
-    cp -a before full/run 2>/dev/null && mkdir full/tmp && cmp -s old.inp full/run/TERVAK.INP || { rm -rf full/*; continue; }
+    cp -a before full/run 2>/dev/null && mkdir full/tmp && cmp -s old.inp full/run/TERVAK.INP ||
+      { rm -rf full/*; continue; }
     answer=$(TMPDIR=$work/full/tmp bin/tervak-run deck.inp full/run 2>&1)
     status=$?
     judge "a disk of $k kB" full/run $status "$answer"

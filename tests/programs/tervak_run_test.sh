@@ -93,6 +93,14 @@ check "a deck that the run would move" refuses mine "has a name that the run wri
 ln mine/TERVAK.RIF kept.RIF && deck=other.inp
 check "results with a second name" refuses mine "2 names"
 
+limited() { answer=$(trap '' XFSZ; ulimit -f 20; bin/tervak-run other.inp limited 2>&1); [ $? = 1 ] && grep -q 'killed by signal' <<<"$answer"; }
+check "a limit on the size of files, even where its signal is ignored" limited
+closed() { bin/tervak-run other.inp limited >&- 2>/dev/null; [ $? = 1 ] && [ ! -s limited/.tervak-run.lock ]; }
+check "a closed output" closed
+rm -f limited/tervak.inp && cp other.inp limited/tervak.inp && rm limited/TERVAK.INP
+expect "a deck in the directory, under the second name" 0 "$GOOD" "" limited/tervak.inp limited
+check "stays what it is" cmp limited/tervak.inp other.inp
+
 program 'exit 0'
 expect "a program that does nothing" 1 "it made no run log" "$GOOD" other.inp run
 program 'printf " NORMAL EXIT FROM TERVAK\r\n" >TERVAK.MLG'
