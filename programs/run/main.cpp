@@ -85,7 +85,7 @@ void run_deck(const run::options& o, int& status) {
   const fs::path directory = fs::canonical(o.directory);
   std::cout << "deck:       " << shown(o.deck) << "\ndirectory:  " << shown(directory) << '\n';
   if (files.nodes_of_directory())
-    std::cout << "pile nodes: PILEPLOT.TXT of this directory; none lies beside the deck\n";
+    std::cout << "pile nodes: PILEPLOT.TXT of this directory; none is beside the deck\n";
   std::cout << std::flush;
   status = NOT_GOOD;
   const int found = make_run(program, directory, run::deck_findings(files.deck(), shown(o.deck)));
