@@ -61,7 +61,8 @@ int make_run(const fs::path& program, const fs::path& directory, const run::deck
     show("warnings and errors of the run log:", of_log);
     facts.warnings = of_deck.warnings + of_log.warnings;
   }
-  if (facts.end.failure.empty()) facts.results = companion::results_of(directory, program);
+  if (facts.end.failure.empty() && os::interrupted() == 0)
+    facts.results = companion::results_of(directory, program);
   std::cout << verdict(facts);
   return is_good(facts) ? GOOD : NOT_GOOD;
 }
