@@ -2,12 +2,20 @@
 
 #include <algorithm>
 #include <fstream>
+#include <sstream>
 #include <tuple>
+
+#include "Platform/files.hpp"
 
 namespace tervak::check {
 
 std::unique_ptr<const deck_reading> read_deck(const std::filesystem::path& deck) {
-  std::ifstream stream(deck, std::ios::binary);
+  const auto kind = std::filesystem::status(deck).type();
+  if (kind == std::filesystem::file_type::not_found || kind == std::filesystem::file_type::directory) {
+    std::ifstream stream(deck, std::ios::binary);  // the reader says why in its own words
+    return std::make_unique<const deck_reading>(stream, deck.string());
+  }
+  std::istringstream stream(os::read_file(deck));
   return std::make_unique<const deck_reading>(stream, deck.string());
 }
 

@@ -25,7 +25,8 @@ struct deck_report {
   std::vector<warning> warnings;  ///< in the order of the file
 };
 
-/// Reads a deck under the name that is given. One that cannot be opened is a reading with a fault.
+/// Reads a deck under the name that is given. One that is not there is a reading with a fault. Throws
+/// std::runtime_error for a file that cannot be read, such as a FIFO, for which it does not wait.
 [[nodiscard]] std::unique_ptr<const deck_reading> read_deck(const std::filesystem::path& deck);
 
 /// `accepted` are names of rules that are passed over.

@@ -23,7 +23,7 @@ int explain_log(const options& o, std::ostream& out) {
 }
 
 std::filesystem::path program() {
-  const std::filesystem::path found = os::find_program("tervak");
+  std::filesystem::path found = os::find_program("tervak");
   if (found.empty()) throw std::runtime_error("found no tervak beside this program or on the path");
   return found;
 }

@@ -12,27 +12,33 @@ namespace {
 
 constexpr std::size_t LONGEST_LINE = 1000;
 
-/// A line as text: control bytes and those that are no UTF-8 as "?", without blanks at its end.
+/// Bytes of the character at the front of a text in UTF-8; 0 where it is none, or a control character.
+std::size_t character_size(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char lead = byte(0);
+  if (lead < 0x80) return lead >= 0x20 && lead != 0x7F ? 1 : 0;
+  const std::size_t size = lead >= 0xC2 && lead < 0xE0   ? 2
+                           : lead >= 0xE0 && lead < 0xF0 ? 3
+                           : lead < 0xF5                 ? 4
+                                                         : 0;
+  if (lead < 0xC2 || size == 0 || size > text.size()) return 0;
+  for (std::size_t i = 1; i < size; ++i)
+    if ((byte(i) & 0xC0) != 0x80) return 0;
+  return lead == 0xC2 && byte(1) < 0xA0 ? 0 : size;
+}
+
+/// A line as text: tabs as blanks, control characters and bytes that are no UTF-8 as "?", without blanks at
+/// its end.
 std::string as_text(std::string_view line) {
   std::string text;
   line = line.substr(0, LONGEST_LINE);
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(line[i]);
-    std::size_t more = byte < 0x80                   ? 0
-                       : byte >= 0xF0 && byte < 0xF8 ? 3
-                       : byte >= 0xE0                ? 2
-                       : byte >= 0xC2                ? 1
-                                                     : 9;
-    if (byte >= 0xF8) more = 9;
-    bool good = more < 9 && i + more < line.size() && byte != 0x7F && (byte >= 0x20 || byte == '\t');
-    for (std::size_t k = 1; good && k <= more; ++k)
-      good = (static_cast<unsigned char>(line[i + k]) & 0xC0) == 0x80;
-    if (!good || byte == '\t') {
-      text += good ? ' ' : '?';
-      continue;
-    }
-    text += line.substr(i, more + 1);
-    i += more;
+  while (!line.empty()) {
+    const std::size_t size = character_size(line);
+    if (size == 0)
+      text += line.front() == '\t' ? ' ' : '?';
+    else
+      text += line.substr(0, size);
+    line.remove_prefix(size == 0 ? 1 : size);
   }
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }

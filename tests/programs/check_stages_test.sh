@@ -48,10 +48,14 @@ done
 # A message that is not known, bytes that are no text, and files that cannot be read
 printf ' +++++ START PROGRAM TERVAK   VERSION = 1 2\r\n **** SR/MADEUP : \033[31m\377\000 N= 5\r\n' >"$work/run/TERVAK.MLG"
 [ "$(explain "$work/tutorial.inp")" = 1 ] && grep -q 'SR/MADEUP : ?\[31m?? N= 5' "$work/out" || fail "an unknown message"
-head -c 100000 /dev/urandom >"$work/run/TERVAK.MLG"
+LC_ALL=C awk 'BEGIN { srand(7); for (i = 0; i < 100000; ++i) printf "%c", int(256 * rand()) }' >"$work/run/TERVAK.MLG"
 [ "$(explain "$work/tutorial.inp")" = 1 ] && ! LC_ALL=C grep -q '[^[:print:]	]' <(iconv -c -f utf-8 -t ascii "$work/out") ||
   fail "a log of random bytes"
-[ "$(explain "$work/absent")" = 2 ] || fail "a deck that is not there"
+[ "$(explain "$work/absent" 2>/dev/null)" = 2 ] || fail "a deck that is not there"
 rm "$work/run/TERVAK.MLG"
 [ "$(explain "$work/tutorial.inp" 2>/dev/null)" = 2 ] || fail "a log that is not there"
+mkfifo "$work/fifo"
+s=0
+"$check" "$work/fifo" >"$work/out" 2>&1 || s=$?
+[ "$s" = 2 ] && grep -q "$work/fifo: " "$work/out" || fail "a FIFO in place of a deck"
 exit $bad
