@@ -5,9 +5,9 @@
 
 #include "report/files.hpp"
 #include "report/layer_picture.hpp"
+#include "report/mark_rows.hpp"
 #include "report/options.hpp"
 #include "report/page.hpp"
-#include "report/profile_tables.hpp"
 #include "report/read_interface_file.hpp"
 
 namespace {
@@ -15,13 +15,15 @@ namespace {
 using namespace tervak::report;
 
 void write_page(const options& o, const interface_file& file) {
-  write_file(o.output, page(file, std::filesystem::path(o.input).filename().string(), o.u));
+  const page_facts facts{std::filesystem::path(o.input).filename().string(), o.u, run_log_beside(o.input),
+                         read_deck_beside(o.input, file)};
+  write_file(o.output, page(file, facts));
   std::size_t layers = 0;
   for (const profile& p : file.profiles) layers += p.layers.size();
   std::cout << o.output << ": profiles " << file.profiles.size() << ", layers " << layers
-            << "; curves with softening " << count_marked(file, mark_kind::softening)
-            << ", with near-vertical pieces " << count_marked(file, mark_kind::vertical) << ", zero "
-            << count_marked(file, mark_kind::zero) << '\n';
+            << "; curves to look at " << count_marked(file, true) << ", with marks of their method "
+            << count_marked(file, false) << '\n';
+  for (const std::string& line : look_here_lines(file)) std::cout << line << '\n';
 }
 
 /// Refuses a number that the file does not have.

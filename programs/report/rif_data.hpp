@@ -43,6 +43,13 @@ struct layer {
 
   const std::vector<curve>& of(curve_kind kind) const { return curves[static_cast<std::size_t>(kind)]; }
   std::vector<curve>& of(curve_kind kind) { return curves[static_cast<std::size_t>(kind)]; }
+  /// Code of an axial or P-Y curve; 0 for monopile curves, which are given.
+  int code(curve_kind kind) const {
+    return kind == curve_kind::py   ? py_code
+           : kind == curve_kind::tz ? tz_code
+           : kind == curve_kind::qz ? qz_code
+                                    : 0;
+  }
   bool above_scour() const { return DEPTH <= 0.0; }
 };
 
