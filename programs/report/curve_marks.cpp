@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "report/curve_points.hpp"
+
 namespace tervak::report {
 namespace {
 
@@ -125,12 +127,6 @@ std::vector<mark> find_marks(const curve& c, double length) {
   return out;
 }
 
-bool fills_out(const point& inner, const point& outer) {
-  const double step = std::abs(outer.displacement - inner.displacement);
-  return outer.stress == inner.stress &&
-         std::abs(step - 1.0) < 1e-6 * std::max(1.0, std::abs(outer.displacement));
-}
-
 double shape_end(const curve& c, int side) {
   const std::vector<std::size_t> points = outward(c, side);
   const double peak = peak_of(c, points);
@@ -138,7 +134,8 @@ double shape_end(const curve& c, int side) {
   const double near_flat = 0.1 * peak;
   const auto size = [&](std::size_t i) { return std::abs(c[points[i]].displacement); };
   const auto stress = [&](std::size_t i) { return c[points[i]].stress; };
-  std::size_t last = points.size() - 1;
+  const auto [first, end] = points_before_filler(c, false);
+  std::size_t last = points.size() - 1 - (side > 0 ? c.size() - end : first);
   double low = stress(last), high = low;
   for (std::size_t i = last; i > 0; --i) {
     low = std::min(low, stress(i));
@@ -149,7 +146,6 @@ double shape_end(const curve& c, int side) {
       break;
     }
   }
-  while (last > 0 && fills_out(c[points[last - 1]], c[points[last]])) --last;
   return size(last);
 }
 

@@ -43,10 +43,6 @@ double peak_stress(const curve& c, int side);
 /// while the other has some: a pile tip takes no tension by default.
 std::vector<mark> find_marks(const curve& c, double length);
 
-/// Whether `outer` only fills a curve out to its number of points: one length unit on from `inner` with its
-/// stress.
-bool fills_out(const point& inner, const point& outer);
-
 /// Where the shape of a side ends, as a displacement without sign: the generated curves close with far points
 /// at a thousand diameters and beyond, which would hide the shape in a plot. Far points are those behind a
 /// hundredfold jump of the displacement across which the stress stays within a tenth of the peak. Points

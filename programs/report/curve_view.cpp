@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "report/method_label.hpp"
 #include "report/text.hpp"
 
 namespace tervak::report {
@@ -98,32 +99,8 @@ kind_words words_of(curve_kind kind) {
 }
 
 std::string method_text(curve_kind kind, int code) {
-  struct method {
-    curve_kind kind;
-    int code;
-    const char* name;
-  };
-  // The names are those of the listing.
-  static constexpr std::array<method, 13> methods = {{{curve_kind::py, 214, "API-2014"},
-                                                      {curve_kind::py, 284, "API-84"},
-                                                      {curve_kind::py, 287, "API-87"},
-                                                      {curve_kind::py, 380, "VRK-80"},
-                                                      {curve_kind::py, 404, "ISO-04"},
-                                                      {curve_kind::py, 570, "ModMat"},
-                                                      {curve_kind::py, 600, "NGI-11"},
-                                                      {curve_kind::tz, 200, "KRAFT"},
-                                                      {curve_kind::tz, 214, "API-2014"},
-                                                      {curve_kind::tz, 293, "API-93"},
-                                                      {curve_kind::qz, 200, "ELAPLA"},
-                                                      {curve_kind::qz, 214, "API-2014"},
-                                                      {curve_kind::qz, 293, "API-93"}}};
-  static constexpr std::array<const char*, 4> simple = {"LINEAR", "AUTO-1", "AUTO-2", "AUTO-3"};
-  const std::string text = std::to_string(code);
-  if (code == 0) return text + " (MANUAL)";
-  if (code >= 100 && code <= 103) return text + " (" + simple[static_cast<std::size_t>(code - 100)] + ")";
-  for (const method& m : methods)
-    if (m.kind == kind && m.code == code) return text + " (" + m.name + ")";
-  return text;
+  const std::string label = method_label(kind, code);
+  return std::to_string(code) + (label[0] == '?' ? "" : " (" + label + ")");
 }
 
 std::vector<curve_kind> kinds_of(const profile& p) {
@@ -133,7 +110,7 @@ std::vector<curve_kind> kinds_of(const profile& p) {
   return kinds;
 }
 
-const char* soil_text(const layer& l) { return l.PHIR > 1e-10 ? "sand" : "clay"; }
+const char* soil_text(const layer& l) { return l.is_sand() ? "sand" : "clay"; }
 
 bool as_the_method_makes_it(mark_kind mark) { return mark == mark_kind::softening; }
 

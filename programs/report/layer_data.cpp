@@ -1,8 +1,9 @@
 #include "report/layer_data.hpp"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
+#include "report/curve_points.hpp"
 #include "report/curve_view.hpp"
 #include "report/page_data.hpp"
 #include "report/text.hpp"
@@ -10,18 +11,16 @@
 namespace tervak::report {
 namespace {
 
-/// First and last point that any of the curves needs: before them come points in steps of one length unit
-/// with the same stress, which fill the curve out to its 29.
-std::pair<std::size_t, std::size_t> before_filler(const std::vector<curve>& curves) {
-  std::size_t first = curves.empty() ? 0 : curves.front().size(), last = 0;
+/// First and last point that any of the curves needs.
+std::pair<std::size_t, std::size_t> before_filler(const std::vector<curve>& curves, curve_kind kind) {
+  const bool monopile = kind >= curve_kind::mtheta;
+  std::size_t first = curves.empty() ? 0 : curves.front().size(), end = 1;
   for (const curve& c : curves) {
-    std::size_t low = 0, high = c.empty() ? 0 : c.size() - 1;
-    while (low + 1 < c.size() && fills_out(c[low + 1], c[low])) ++low;
-    while (high > low && fills_out(c[high - 1], c[high])) --high;
+    const auto [low, high] = points_before_filler(c, monopile);
     first = std::min(first, low);
-    last = std::max(last, high);
+    end = std::max(end, high);
   }
-  return {first, last};
+  return {first, end - 1};
 }
 
 std::string marks_json(const curve_view& view) {
@@ -41,7 +40,7 @@ std::string marks_json(const curve_view& view) {
 
 std::string kind_json(const profile& p, const layer& l, curve_kind kind, const units& u, value_lists& lists) {
   const curve_view view = view_curves(p, l, kind, u);
-  const auto [first, last] = before_filler(l.of(kind));
+  const auto [first, last] = before_filler(l.of(kind), kind);
   std::string curves;
   for (const curve& c : l.of(kind))
     curves += join({curves.empty() ? "" : ",", std::to_string(lists.add(stress_text(c))), ",",

@@ -142,6 +142,10 @@ std::string style_paths(std::size_t index) {
   return styled_paths(style, "M1 5H43", "M22 5" + style.marker);
 }
 
+std::string style_sample(std::size_t index) {
+  return "<svg class=\"sample\" viewBox=\"0 0 44 10\" aria-hidden=\"true\">" + style_paths(index) + "</svg>";
+}
+
 std::vector<std::pair<double, double>> clip_to(const std::vector<std::pair<double, double>>& points,
                                                double low, double high) {
   std::vector<std::pair<double, double>> out;

@@ -40,7 +40,8 @@ struct line_style {
   std::string fill;
 };
 line_style style_of(std::size_t index);
-/// A short sample of a style, for legends: 44 wide and 10 high.
+/// A short sample of a style, for legends: a drawing of its own, and its paths alone, 44 wide and 10 high.
+std::string style_sample(std::size_t index);
 std::string style_paths(std::size_t index);
 
 struct plot_line {

@@ -4,6 +4,7 @@
 #   <!-- from: DECK FILE -->   an approved output
 #   <!-- deck: FILE -->        a file of this repository, such as a deck
 #   <!-- run: DECK -->         what tervak-run and then tervak-report print of this deck, run in /home/you/piles
+#   <!-- run: commands -->     what the blocks behind <!-- commands --> print, run there after all decks
 #
 # Line ends and blanks at the ends of lines do not count.   excerpts_test.sh [DIRECTORY_OF_THE_PROGRAMS]
 # Without the programs the third kind is not looked at.
@@ -66,7 +67,9 @@ excerpt() { printf '<!-- from: deck FILE -->\n```\n%b\n```\n' "$1" >"$work/excer
   { echo "the check itself is at fault"; exit 1; }
 
 if [ -n "$programs" ]; then
-  for deck in $(sed -n 's/^<!-- run: \([^ ]*\) .*/\1/p' "$root"/docs/*.md | sort -u); do run "$deck"; done
+  for deck in $(sed -n 's/^<!-- run: \([^ ]*\.inp\) .*/\1/p' "$root"/docs/*.md | sort -u); do run "$deck"; done
+  awk '/^<!-- commands -->/ { state = 2 } /^```/ { --state; next } state == 1' state=0 "$root"/docs/*.md >"$work/commands"
+  (cd "$work/piles" && PATH=$programs:$PATH bash "$work/commands") >"$work/run/commands" 2>&1 || true
 fi
 check "$root/tests/golden/approved" "$root"/docs/*.md >"$work/result"
 cat "$work/result"

@@ -78,6 +78,17 @@ TEST(AxialCapacity, LinearCurvesHaveNoPeak) {
   expect_row(rows.at(4), {no, no, 30, no, no});
 }
 
+/// The numbers worked by hand in docs/outputs.md, of a pile that ends at 6 m.
+TEST(AxialCapacity, AsWorkedInTheDocuments) {
+  const capacity_row row = axial_capacities(approved("small-clay").profiles.at(0), 2.0).at(0).rows.at(2);
+  const std::string text = work_directory::get(source / "docs/outputs.md");
+  EXPECT_NEAR(*row.skin_compression, 166.0, 0.05);
+  EXPECT_NEAR(*row.tip, 188.8, 0.05);
+  EXPECT_NEAR(*row.capacity_compression, 354.8, 0.05);
+  for (const std::string number : {"71.83 + 94.17 = 166.0", "x 1.524^2 / 4 = 188.8", "166.0 + 188.8 = 354.8"})
+    EXPECT_NE(text.find(number), std::string::npos) << number;
+}
+
 /// Each deck of the examples is found to be that of its own interface file.
 TEST(DeckBeside, BelongsToItsFile) {
   const work_directory here;

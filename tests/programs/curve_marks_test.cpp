@@ -80,9 +80,11 @@ TEST(CurveMarks, ShapeEnds) {
   EXPECT_EQ(shape_end({{0, 0}, {5, 0.1}, {10, 0.4}, {10, 2000}, {10, 2001}}, 1), 0.4) << "far points";
   EXPECT_EQ(shape_end({{0, 0}, {5, 0.1}, {9.8, 0.4}, {10, 2000}, {10, 2001}}, 1), 0.4)
       << "stress still creeps";
-  EXPECT_EQ(shape_end({{0, 0}, {5, 0.1}, {10, 0.4}, {10, 1.4}, {10, 2.4}}, 1), 0.4)
+  EXPECT_EQ(shape_end({{-10, -2.4}, {-10, -1.4}, {-10, -0.4}, {0, 0}, {10, 0.4}, {10, 1.4}, {10, 2.4}}, 1),
+            0.4)
       << "filled out without far point";
-  EXPECT_EQ(shape_end({{0, 0}, {10000, 100}, {10000, 101}}, 1), 100.0) << "linear, as far as it rises";
+  EXPECT_EQ(shape_end({{-10000, -101}, {-10000, -100}, {0, 0}, {10000, 100}, {10000, 101}}, 1), 100.0)
+      << "linear, as far as it rises";
   EXPECT_EQ(shape_end({{0, 0}, {1, 1e-5}, {10, 0.4}}, 1), 0.4) << "a stiff start is no far point";
   EXPECT_EQ(shape_end({{0, 0}, {0, 1000}, {0, 1001}}, 1), 0.0) << "zero curve";
   EXPECT_EQ(shape_end({{0, -2000}, {0, -2000}, {0, 2000}, {0, 2000}}, 1), 0.0)

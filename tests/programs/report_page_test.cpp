@@ -10,7 +10,6 @@
 
 #include "programs/sample_rif.hpp"
 #include "report/layer_picture.hpp"
-#include "report/options.hpp"
 #include "report/page.hpp"
 #include "report/read_interface_file.hpp"
 #include "report/run_log.hpp"
@@ -139,32 +138,6 @@ TEST(ReportPicture, DrawsALayer) {
       std::string::npos);
 }
 
-std::string usage_of(const std::vector<std::string>& arguments) {
-  try {
-    const options o = parse_options(arguments);
-    return o.input + " > " + o.output + " " + o.u.of_stress();
-  } catch (const usage_error& error) {
-    return error.what();
-  }
-}
-
-TEST(ReportOptions, CommandLines) {
-  EXPECT_EQ(usage_of({}), "TERVAK.RIF > TERVAK.html run units");
-  EXPECT_EQ(usage_of({"--units", "kN,m", "-o", "x.html", "a.rif"}), "a.rif > x.html kN/m²");
-  EXPECT_EQ(usage_of({"--units=MN,m", "--", "-o"}), "-o > TERVAK.html MN/m²");
-  EXPECT_EQ(usage_of({"--units", "kN"}), "expected two unit names behind '--units', as in kN,m, found 'kN'");
-  EXPECT_EQ(usage_of({"--units=k<,m"}), "expected two unit names behind '--units', as in kN,m, found 'k<,m'");
-  EXPECT_EQ(usage_of({"--svg", "5"}), "TERVAK.RIF > TERVAK.svg run units");
-  EXPECT_EQ(parse_options({"--svg=2/51"}).profile, 2U);
-  EXPECT_EQ(parse_options({"--svg=2/51"}).layer, 51U);
-  for (const std::string text : {"", "0", "2/", "/5", "-1", "2/0", "1/2/3", "12345", "5x"})
-    EXPECT_EQ(usage_of({"--svg", text}),
-              "expected a layer behind '--svg', as in 5, or 2/5 in profile 2, found '" + text + "'");
-  EXPECT_EQ(usage_of({"-o"}), "option '-o' expects a value behind it");
-  EXPECT_EQ(usage_of({"-x"}), "unknown option '-x'");
-  EXPECT_EQ(usage_of({"a", "b"}), "expected one input file, found also 'b'");
-}
-
 /// Runs the program in a directory of its own.
 class ReportProgram : public testing::Test, public work_directory {
  protected:
@@ -194,6 +167,9 @@ TEST_F(ReportProgram, WritesThePage) {
   EXPECT_EQ(run("--help").substr(0, 22), "0 usage: tervak-report");
   EXPECT_EQ(run("--svg 1/3 -o x.svg"), "0 x.svg: profile 1, layer 3\n");
   EXPECT_EQ(get("x.svg").substr(0, 5), "<?xml");
+  EXPECT_EQ(run("--svg 2-3 -o pictures"),
+            "0 pictures/p1-l2.svg: profile 1, layer 2\npictures/p1-l3.svg: profile 1, layer 3\n");
+  EXPECT_EQ(get("pictures/p1-l3.svg"), get("x.svg"));
 }
 
 TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
@@ -226,6 +202,45 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
             "1 tervak-report: there: something other than a regular file stands there, it is left alone\n");
   EXPECT_EQ(run("there"), "1 tervak-report: there: expected a regular file\n");
   EXPECT_EQ(files(), 5U);
+}
+
+TEST_F(ReportProgram, WritesTablesWholeOrNotAtAll) {
+  const std::string from = "Capacity counts from the sea floor. No deck TERVAK.INP is beside the file.\n";
+  EXPECT_EQ(run("--csv a/b --json x.json"),
+            "0 a/b/layers.csv: records 3\na/b/curves.csv: records 198\na/b/capacity.csv: records 6\n"
+            "x.json: profiles 1\n" +
+                from);
+  const std::string old = get("a/b/curves.csv");
+  EXPECT_EQ(run("--csv a/b --all-points", "trap '' XFSZ; ulimit -f 8; "),
+            "1 tervak-report: a/b/curves.csv: cannot be written: File too large\n");
+  EXPECT_EQ(get("a/b/curves.csv"), old);
+  put("a/b/units.csv", "of before");
+  EXPECT_NE(run("--csv a/b").find("a/b/units.csv: not of this file, it was there before\n"),
+            std::string::npos);
+  fs::create_hard_link("TERVAK.RIF", "a/layers.csv");
+  EXPECT_EQ(run("--csv a").substr(0, 50), "2 tervak-report: 'a/layers.csv' is the input: the ");
+  EXPECT_EQ(run("--csv x.json"), "1 tervak-report: x.json: something other than a directory stands there\n");
+  put("bad.rif", get("TERVAK.RIF").substr(0, 5000));
+  EXPECT_EQ(run("--csv none bad.rif").substr(0, 25), "1 tervak-report: bad.rif:");
+  EXPECT_FALSE(fs::exists("none"));
+  EXPECT_EQ(run("--version").substr(0, 18), "0 tervak-report 0.");
+}
+
+TEST_F(ReportProgram, ComparesWithAStatus) {
+  put("four.rif", sample::rif({1, 4, 2}));
+  EXPECT_EQ(run("--compare TERVAK.RIF TERVAK.RIF"),
+            "0 TERVAK.RIF, TERVAK.RIF: alike (tolerance 0.1 %); compared profiles 1, layers 3, curves 18\n");
+  EXPECT_EQ(
+      run("--compare TERVAK.RIF four.rif -o x.html"),
+      "1 TERVAK.RIF, four.rif: differences 1 (tolerance 0.1 %); compared profiles 1, layers 3, curves 18\n"
+      "change    profile   layer  ZBOTM  diameter  what   before  after\n"
+      "one file  BORING-1  4      4                layer  none    there\n");
+  EXPECT_EQ(get("x.html").substr(0, 15), "<!DOCTYPE html>");
+  EXPECT_EQ(run("--compare TERVAK.RIF none"),
+            "2 tervak-report: none: cannot be opened: No such file or directory\n");
+  EXPECT_EQ(run("--compare TERVAK.RIF four.rif -o four.rif").substr(0, 18), "2 tervak-report: '");
+  EXPECT_EQ(run("--compare TERVAK.RIF").substr(0, 18), "2 tervak-report: e");
+  EXPECT_EQ(get("four.rif"), sample::rif({1, 4, 2}));
 }
 
 }  // namespace
