@@ -34,22 +34,24 @@ function panelScales(profile, k, kind, range) {
   return { x, y, place };
 }
 
-function curveLine(k, d, scales, range) {
-  const c = curveOf(k, d);
+// With `print` dashes are pieces of their own, and markers keep some distance.
+function curveLine(k, d, scales, range, print) {
+  const c = curveOf(k, d), dash = data.styles[d][1], pieces = print && dash !== 'none';
   const points = c.x.map((v, i) => [v, c.s[i]]);
   const runs = range !== 'log' ? [points] : [points.filter(([v]) => v > 0)];
   if (range === 'log' && !k.s) runs.push(points.filter(([v]) => v < 0).map(([v, s]) => [-v, s]).reverse());
   let path = '';
-  for (const run of runs)
-    path += clip(run, scales.x.low, scales.x.high)
-      .map(([v, s], i) => (i ? 'L' : 'M') + px(scales.x.at(v)) + ' ' + px(scales.y.at(s))).join('');
+  for (const run of runs) {
+    const places = clip(run, scales.x.low, scales.x.high).map(([v, s]) => [scales.x.at(v), scales.y.at(s)]);
+    path += pieces ? dashed(places, dash.split(' ').map(Number)) : polyline(places);
+  }
   // Where many points lie at one place, one marker is enough.
   const dots = [];
   for (let i = 0; i < c.x.length; ++i) {
     const at = scales.place(c, i), last = dots[dots.length - 1];
-    if (at && !(last && Math.abs(last[0] - at[0]) + Math.abs(last[1] - at[1]) < 1)) dots.push(at);
+    if (at && !(last && Math.abs(last[0] - at[0]) + Math.abs(last[1] - at[1]) < (print ? 16 : 1))) dots.push(at);
   }
-  return styled(d, path, dots);
+  return styled(d, path, dots, pieces);
 }
 
 // Letters of the marks at their points, equal ones that would cover each other once.
@@ -67,11 +69,11 @@ function letters(k, shown, scales) {
   return places.map((p) => textAt(p.look ? 'mk look' : 'mk', p.at[0], p.at[1] - 7, p.text)).join('');
 }
 
-function curvePlot(profile, l, n, range, shown, extra) {
+function curvePlot(profile, l, n, range, shown, extra, print) {
   const k = profile.layers[l][n], kind = profile.kinds[n];
   const scales = panelScales(profile, k, kind, range);
   let out = frame(curveBox, scales.x, scales.y, false, curveBox[2] - 5);
-  for (let d = 0; d < profile.diameters.length; ++d) if (shown(d)) out += curveLine(k, d, scales, range);
+  for (let d = 0; d < profile.diameters.length; ++d) if (shown(d)) out += curveLine(k, d, scales, range, print);
   return svgOf(curveBox, 'plot', `${kind.name} curves of layer ${l + 1}`, out + letters(k, shown, scales), extra);
 }
 
@@ -90,13 +92,14 @@ function markText(k, kind, [d, mark, , side, from, to, share]) {
   }
 }
 
-// One line a curve, those worth a look first.
-function markLists(profile, k, kind, shown) {
+// One line a curve, those worth a look first. In a list of layers long lists of the method's own marks are counted only.
+function markLists(profile, k, kind, shown, alone) {
   const lists = [[], []];
   for (const m of k.m)
     if (shown(m[0]))
       lists[m[2]].push(`<li><b>${data.marks[m[1]][0]}</b> ${esc(diameterName(profile, m[0]))}: ${data.marks[m[1]][1]}, ${esc(markText(k, kind, m))}</li>`);
   const block = (title, css, items) => (items.length === 0 ? ''
+    : !alone && items.length > 3 && css === 'marks' ? `<p class="note">${title}: marks ${items.length}</p>`
     : `<details class="${css}"${items.length <= 3 ? ' open' : ''}><summary>${title} (${items.length})</summary><ul>${items.join('')}</ul></details>`);
   return block('Look here', 'marks look', lists[1]) + block('As the method makes it', 'marks', lists[0]);
 }
@@ -116,9 +119,9 @@ function panel(profile, l, n, range, shown, alone) {
   const code = n < 3 ? kind.methods[column(profile, kind.name)[l]] : '';
   const extra = alone ? ' tabindex="0" aria-describedby="keys"' : '';
   return `<div class="panel" data-kind="${n}"><h3>${kind.name}${code ? ` <span>${esc(code)}</span>` : ''}</h3>` +
-    curvePlot(profile, l, n, range, shown, extra) +
+    curvePlot(profile, l, n, range, shown, extra, !alone) +
     (alone ? '<p class="readout">Point at a curve, or use the arrow keys in the plot, to read its numbers.</p>' : '') + `<p class="note">${panelNote(profile, k, range, shown)}</p>` +
-    markLists(profile, k, kind, shown) + '</div>';
+    markLists(profile, k, kind, shown, alone) + '</div>';
 }
 
 function layerSummary(profile, l) {
@@ -130,7 +133,16 @@ function layerSummary(profile, l) {
     `; ${strength}; effective stress ${sig(at('SIGZRES'))}${unit('stress')}`;
 }
 
+// The diameters that are shown as one drawing, for each printed page.
+function printedLegend(profile, shown) {
+  const all = profile.diameters.map((_, d) => d).filter(shown), across = 6;
+  const cells = all.map((d, i) => `<g transform="translate(${140 * (i % across)} ${16 * Math.floor(i / across)})">` +
+    styled(d, 'M1 8H43', [[22, 8]]) + textAt('tl', 49, 12, diameterName(profile, d)) + '</g>');
+  return svgOf([140 * across, 16 * Math.ceil(all.length / across)], 'key', 'Diameters', cells.join(''));
+}
+
 function layerHtml(profile, l, range, shown, alone) {
   return `<h2>Layer ${l + 1} of ${profile.layers.length}</h2><p class="summary">${esc(layerSummary(profile, l))}</p>` +
+    (alone ? '' : printedLegend(profile, shown)) +
     `<div class="panels">${profile.kinds.map((_, n) => panel(profile, l, n, range, shown, alone)).join('')}</div>`;
 }

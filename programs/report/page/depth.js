@@ -74,7 +74,7 @@ function depthPlot(profile, n, window, log, shown) {
   const { lines, same } = drawnLines(plot, shown), { x, y } = depthScales(profile, plot, window, log);
   const [, , L] = depthBox;
   const strip = soilPaths(profile, y, L - 26, 20, y.high) + `<path class="frame" d="M${L - 26} ${px(y.at(profile.sea))}h20V${px(y.at(y.high))}h-20z"/>`;
-  const chosen = '<g class="here"></g>';
+  const chosen = `<rect class="here band" x="${L}" width="${depthBox[0] - L - depthBox[3]}"/>`;
   const legend = lines.filter((line) => line.named).map((line) => `<span>${sample(line.style)}${esc(line.name)}</span> `).join('');
   const switches = plot.title === 'Peak P-Y' ? `<label><input type="checkbox" id="log"${log ? ' checked' : ''}> logarithmic</label>` : '';
   return `<div class="depth" data-plot="${n}"><h3>${esc(plot.title)} ${switches}</h3>` +

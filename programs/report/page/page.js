@@ -78,8 +78,9 @@ function drawHere() {
   byId('chosen').innerHTML = chosenMark(profile, state.l);
   const y = linear(profile.depth.windows[state.window].y, depthBox[4], depthBox[1] - depthBox[5]);
   const top = y.at(topOf(profile, state.l)), end = y.at(Math.min(bottomOf(profile, state.l), y.high));
-  document.querySelectorAll('#depths .here').forEach((g) => {
-    g.innerHTML = top < end ? `<rect class="band" x="${depthBox[2]}" y="${px(top)}" width="${depthBox[0] - depthBox[2] - depthBox[3]}" height="${px(Math.max(end - top, 1.5))}"/>` : '';
+  document.querySelectorAll('#depths .here').forEach((band) => {
+    band.setAttribute('y', px(top));
+    band.setAttribute('height', px(top < end ? Math.max(end - top, 1.5) : 0));
   });
 }
 
@@ -146,7 +147,7 @@ function drawAll() {
   drawCurves();
   drawHere();
   depthsDrawn = false;
-  setTimeout(drawDepths, 0);
+  setTimeout(() => { if (!depthsDrawn) drawDepths(); }, 0);
 }
 
 const changes = {
@@ -223,7 +224,7 @@ document.addEventListener('keydown', (event) => {
   else if (event.key === 'ArrowRight') chooseLayer(state.l + 1);
 });
 window.addEventListener('hashchange', () => { if (follow()) drawAll(); });
-window.addEventListener('beforeprint', () => { if (!depthsDrawn) drawDepths(); });
+window.addEventListener('beforeprint', () => { if (!depthsDrawn && !state.several) drawDepths(); });
 
 openProfile(0);
 follow();

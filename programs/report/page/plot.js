@@ -22,26 +22,48 @@ function logarithmic(low, high, from, to) {
 // Grid, frame, labels and titles. x.title stands below, above with `top`; labels of y end at `labels`.
 function frame([W, H, L, R, T, B], x, y, top, labels) {
   const right = W - R, bottom = H - B;
-  let path = '', zero = '', texts = '';
+  let path = '', zero = '', across = '', up = '';
+  const label = (px1, py, t) => `<tspan x="${px(px1)}" y="${px(py)}">${esc(t)}</tspan>`;
   for (const t of x.ticks) {
     const part = `M${px(x.at(+t))} ${T}V${bottom}`;
     if (+t === 0) zero += part; else path += part;
-    texts += textAt('tx', x.at(+t), top ? T - 5 : bottom + 14, t);
+    across += label(x.at(+t), top ? T - 5 : bottom + 14, t);
   }
   for (const t of y.ticks) {
     const part = `M${L} ${px(y.at(+t))}H${right}`;
     if (+t === 0) zero += part; else path += part;
-    texts += textAt('ty', labels, y.at(+t) + 3.5, t);
+    up += label(labels, y.at(+t) + 3.5, t);
   }
   return `<path class="grid" d="${path}"/><path class="zero" d="${zero}"/>` +
-    `<path class="frame" d="M${L} ${T}H${right}V${bottom}H${L}Z"/>${texts}` +
-    textAt('tx', 0.5 * (L + right), top ? T - 24 : bottom + 32, x.title) +
+    `<path class="frame" d="M${L} ${T}H${right}V${bottom}H${L}Z"/>` +
+    `<text class="ty">${up}</text><text class="tx">${across}${label(0.5 * (L + right), top ? T - 24 : bottom + 32, x.title)}</text>` +
     `<text class="tx" transform="translate(11 ${px(0.5 * (T + bottom))}) rotate(-90)">${esc(y.title)}</text>`;
 }
 
-function styled(style, path, dots) {
+// The dashes of a line as pieces of their own. A browser that prints makes outlines of each dash of a pattern, which
+// takes minutes for hundreds of layers. Points are places of the drawing.
+function dashed(points, pattern) {
+  let out = '', n = 0, left = pattern[0];
+  for (let i = 1; i < points.length; ++i) {
+    let [x, y] = points[i - 1];
+    const [ex, ey] = points[i];
+    for (let rest = Math.hypot(ex - x, ey - y); rest > 0;) {
+      const step = Math.min(rest, left), share = step / rest, nx = x + (ex - x) * share, ny = y + (ey - y) * share;
+      if (n % 2 === 0) out += `M${px(x)} ${px(y)}L${px(nx)} ${px(ny)}`;
+      [x, y] = [nx, ny];
+      rest -= step;
+      left -= step;
+      if (left <= 0) left = pattern[++n % pattern.length];
+    }
+  }
+  return out;
+}
+
+const polyline = (points) => points.map(([x, y], i) => `${i ? 'L' : 'M'}${px(x)} ${px(y)}`).join('');
+
+function styled(style, path, dots, plain) {
   const [colour, dash, marker, fill] = data.styles[style];
-  return `<g stroke="${colour}"><path class="line" stroke-dasharray="${dash}" d="${path}"/>` +
+  return `<g stroke="${colour}"><path class="line"${plain || dash === 'none' ? '' : ` stroke-dasharray="${dash}"`} d="${path}"/>` +
     `<path class="dot" fill="${fill}" d="${dots.map(([x, y]) => `M${px(x)} ${px(y)}${marker}`).join('')}"/></g>`;
 }
 

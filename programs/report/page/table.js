@@ -19,7 +19,7 @@ function tableHtml(model, attributes = '') {
     });
     body += '</tr>';
   }
-  return `<div class="table"><h3>${esc(model.title)} <button type="button" class="copy" data-copy="${id}" aria-label="Copy the table ${esc(model.title)}">copy table</button></h3>` +
+  return `<div class="table"><h3>${esc(model.title)} <button type="button" class="copy" data-copy="${id}" aria-label="copy table ${esc(model.title)}">copy table</button></h3>` +
     `<div class="scroll" tabindex="0" role="region" aria-label="${esc(model.title)}"><table${attributes}><thead>${head}</thead><tbody>${body}</tbody></table></div></div>`;
 }
 
