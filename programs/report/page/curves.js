@@ -104,14 +104,16 @@ function markLists(profile, k, kind, shown, alone) {
   return block('Look here', 'marks look', lists[1]) + block('As the method makes it', 'marks', lists[0]);
 }
 
-function panelNote(profile, k, range, shown) {
+function panelNote(profile, k, kind, n, range, shown) {
   let far = 0, beyond = 0;
+  const none = profile.diameters.map((_, d) => d).filter((d) => shown(d) && curveOf(k, d).s.every((s) => s === 0));
+  const zero = none.length === 0 ? '' : `${n < 3 ? 'No resistance' : 'No curve given here'}: ${none.map((d) => diameterName(profile, d)).join(', ')}. `;
   for (let d = 0; d < profile.diameters.length; ++d)
     if (shown(d))
       for (const v of curveOf(k, d).x)
         if (Math.abs(v) > k.x[1] * 1.0000001) { far = Math.max(far, Math.abs(v)); ++beyond; }
-  return (k.s ? 'Both sides are alike. ' : '') +
-    (range === 'working' && beyond ? `The curves go on to ±${sig(far)}${unit('length')}.` : '');
+  return zero + (k.s ? 'Both sides are alike. ' : '') +
+    (range === 'working' && beyond ? `The curves go on to ±${sig(far)}${unitOf(kind.x)}.` : '');
 }
 
 function panel(profile, l, n, range, shown, alone) {
@@ -120,7 +122,7 @@ function panel(profile, l, n, range, shown, alone) {
   const extra = alone ? ' tabindex="0" aria-describedby="keys"' : '';
   return `<div class="panel" data-kind="${n}"><h3>${kind.name}${code ? ` <span>${esc(code)}</span>` : ''}</h3>` +
     curvePlot(profile, l, n, range, shown, extra, !alone) +
-    (alone ? '<p class="readout">Point at a curve, or use the arrow keys in the plot, to read its numbers.</p>' : '') + `<p class="note">${panelNote(profile, k, range, shown)}</p>` +
+    (alone ? '<p class="readout">Point at a curve, or use the arrow keys in the plot, to read its numbers.</p>' : '') + `<p class="note">${esc(panelNote(profile, k, kind, n, range, shown))}</p>` +
     markLists(profile, k, kind, shown, alone) + '</div>';
 }
 
