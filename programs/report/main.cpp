@@ -8,9 +8,9 @@
 #include "report/compare_page.hpp"
 #include "report/files.hpp"
 #include "report/layer_picture.hpp"
+#include "report/mark_rows.hpp"
 #include "report/options.hpp"
 #include "report/page.hpp"
-#include "report/profile_tables.hpp"
 #include "report/read_interface_file.hpp"
 #include "report/write_tables.hpp"
 
@@ -28,13 +28,15 @@ void write_page(const options& o) {
   const std::string output = o.output.empty() ? "TERVAK.html" : o.output;
   refuse_input(o.input, output, "page");
   const interface_file file = read_interface_file(o.input, read_file(o.input));
-  write_file(output, page(file, fs::path(o.input).filename().string(), o.u));
+  const page_facts facts{fs::path(o.input).filename().string(), o.u, run_log_beside(o.input),
+                         read_deck_beside(o.input, file)};
+  write_file(output, page(file, facts));
   std::size_t layers = 0;
   for (const profile& p : file.profiles) layers += p.layers.size();
   std::cout << output << ": profiles " << file.profiles.size() << ", layers " << layers
-            << "; curves with softening " << count_marked(file, mark_kind::softening)
-            << ", with near-vertical pieces " << count_marked(file, mark_kind::vertical) << ", zero "
-            << count_marked(file, mark_kind::zero) << '\n';
+            << "; curves to look at " << count_marked(file, true) << ", with marks of their method "
+            << count_marked(file, false) << '\n';
+  for (const std::string& line : look_here_lines(file)) std::cout << line << '\n';
 }
 
 /// Refuses a number that the file does not have.

@@ -5,13 +5,17 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
+#include <set>
 
 #include "programs/sample_rif.hpp"
 #include "report/layer_picture.hpp"
 #include "report/page.hpp"
 #include "report/read_interface_file.hpp"
+#include "report/run_log.hpp"
 #include "report/svg_plot.hpp"
 #include "report/text.hpp"
+#include "report/value_lists.hpp"
 #include "support/work_directory.hpp"
 
 namespace tervak::report {
@@ -54,21 +58,51 @@ TEST(ReportPlot, AxesAndCuts) {
   EXPECT_EQ(clip_to(points{{-4, 8}, {4, 8}}, -1, 2), (points{{-1, 8}, {2, 8}}));
 }
 
-TEST(ReportPage, TitlesAndUnits) {
+TEST(ReportPlot, NoTwoOfFiftyLinesLookAlike) {
+  std::set<std::string> with_colour, without;
+  for (std::size_t i = 0; i < 55; ++i) {
+    const line_style s = style_of(i);
+    with_colour.insert(s.colour + s.dash + s.marker + (s.fill == "#fff" ? "" : "filled"));
+    without.insert(s.dash + s.marker + (s.fill == "#fff" ? "" : "filled"));
+  }
+  EXPECT_EQ(with_colour.size(), 55U);
+  EXPECT_EQ(without.size(), 55U) << "in black and white";
+}
+
+TEST(ReportPage, NothingBreaksOut) {
   const interface_file file = read_interface_file("T.RIF", sample::rif({1, 3, 2, false, "</script><b>&"}));
-  const std::string bare = page(file, "a<b.RIF", {});
-  EXPECT_EQ(bare.find("<b>&"), std::string::npos);
-  EXPECT_NE(bare.find("<p class=\"label\">&lt;/script&gt;&lt;b&gt;&amp;</p>"), std::string::npos);
-  EXPECT_NE(bare.find("<title>Soil curves of a&lt;b.RIF</title>"), std::string::npos);
+  const run_log log = parse_run_log(" **** WARNING </script><i>\r\n NORMAL EXIT FROM TERVAK\r\n");
+  const std::string bare = page(file, {"a</script><u>.RIF", {}, log, {}});
+  for (const char* tag : {"<b>&", "<i>", "<u>"}) EXPECT_EQ(bare.find(tag), std::string::npos) << tag;
+  EXPECT_NE(bare.find("<title>&lt;/script&gt;&lt;b&gt;&amp;</title>"), std::string::npos);
   EXPECT_NE(bare.find("stress p [run units]"), std::string::npos);
   EXPECT_EQ(bare.find("kN"), std::string::npos);
-  // Layer 1 lies above the scour level, so that layer 2 is the one shown.
-  EXPECT_NE(bare.find("<td class=\"text\">at or above scour level</td>"), std::string::npos);
-  EXPECT_NE(bare.find("This layer lies at or above the scour level."), std::string::npos);
-  EXPECT_NE(bare.find("<h3>Layer 2 of 3</h3>"), std::string::npos);
-  const std::string named = page(file, "T.RIF", {"kN", "m"});
+  const std::string named = page(file, {"T.RIF", {"kN", "m"}, {}, {}});
   EXPECT_NE(named.find("stress p [kN/m²]"), std::string::npos);
-  EXPECT_EQ(named.find("run units"), std::string::npos);
+}
+
+TEST(ReportPage, RunLogs) {
+  const run_log good = parse_run_log(
+      " +++++ INPUT FILE READ\r\n ---- Warning from SR/REV5INP : Layer = 1\r\n  second line\r\n\r\n not of it\r\n"
+      " **** A\r\n +++++ B\r\n NORMAL EXIT FROM TERVAK   \r\n\r\n");
+  EXPECT_TRUE(good.good);
+  EXPECT_EQ(good.messages,
+            (std::vector<std::string>{"---- Warning from SR/REV5INP : Layer = 1 second line", "**** A"}));
+  const run_log refused =
+      parse_run_log("tervak.inp:9:1: unknown\n   9 | DAIM\n     | ^^^^\n ERROR EXIT FROM TERVAK");
+  EXPECT_FALSE(refused.good);
+  EXPECT_EQ(refused.ending, "ERROR EXIT FROM TERVAK");
+  EXPECT_EQ(refused.messages, (std::vector<std::string>{"tervak.inp:9:1: unknown"}));
+  EXPECT_EQ(parse_run_log("").ending, "");
+}
+
+TEST(ReportPage, ListsOfNumbers) {
+  EXPECT_EQ(list_text(std::vector<double>{0.5, 0.5, 0.5, 2000, 2001, 2002, 7}), "0.5*3 2000+2 7");
+  EXPECT_EQ(list_text(std::vector<std::optional<double>>{{}, 1.0 / 3.0, {}}), "- 0.333333333 -");
+  EXPECT_EQ(stress_text({{-2, -1}, {0, 0}, {2, 1}}) + " " + displacement_text({{0, -1}, {0, 0}, {2, 1}}),
+            "-|2 -|1");
+  EXPECT_EQ(stress_text({{0, -1}, {0, 0}, {2, 1}}), "0|2");
+  EXPECT_EQ(stress_text({{-3, -1}, {0, 0}, {2, 1}}), "-3 0 2");
 }
 
 std::size_t count_of(const std::string& part, const std::string& text) {
@@ -88,12 +122,9 @@ TEST(ReportPicture, DrawsALayer) {
                    "corrected for scour</text>"),
       std::string::npos);
   EXPECT_NE(picture.find(">Q-Z, code 293 (API-93)</text>"), std::string::npos);
-  // P-Y peak 32 at 0.15 D. Drawn are +-1.1 * 0.3 over 242.9 units from 41.1 (the labels are as wide as
-  // "-30"), and
-  // +-1.16 * 32 over 240 units from 8: 41.1 + 0.48 / 0.66 * 242.9 and 41.1 + 0.63 / 0.66 * 242.9; 8 + 5.12
-  // / 74.24 * 240.
-  EXPECT_NE(picture.find("L217.8 24.6L"), std::string::npos) << picture;
-  EXPECT_NE(picture.find("L273.0 24.6L"), std::string::npos) << picture;
+  // P-Y peak 32 from 0.15 D to 0.4 D, both sides alike. Drawn are 0 to 1.1 * 0.8 over 246.6 units from 37.4
+  // (the labels are as wide as "30"), and -0.08 * 32 to 1.08 * 32 over 240 units from 8.
+  EXPECT_NE(picture.find("L121.5 24.6L261.6 24.6L"), std::string::npos) << picture;
   EXPECT_EQ(count_of("class=\"line\"", picture), 8U) << "two diameters, three kinds and the legend";
   EXPECT_EQ(picture.find("softening"), std::string::npos);
   const std::string marked = layer_picture(file.profiles[0], 4, {});
@@ -128,7 +159,9 @@ class ReportProgram : public testing::Test, public work_directory {
 TEST_F(ReportProgram, WritesThePage) {
   EXPECT_EQ(
       run(""),
-      "0 TERVAK.html: profiles 1, layers 3; curves with softening 2, with near-vertical pieces 2, zero 0\n");
+      "0 TERVAK.html: profiles 1, layers 3; curves to look at 2, with marks of their method 2\n"
+      "look here: profile 1, P-Y, near-vertical piece, layers 3, 2 curves, a step of 50 % of the peak at most (layer 3, "
+      "D = 1)\n");
   EXPECT_EQ(get("TERVAK.html").substr(0, 15), "<!DOCTYPE html>");
   EXPECT_EQ(files(), 2U) << "nothing left beside the page";
   EXPECT_EQ(run("--help").substr(0, 22), "0 usage: tervak-report");

@@ -38,7 +38,7 @@ double mean_strength(const strength_table& table, int count, double top, double 
   return sum / count;
 }
 
-double factor(const vector1<double>& row, double ratio, int& IERR) {
+double factor(table_view row, double ratio, int& IERR) {
   double value = 0.0;
   Interpolate(5, 1, DEPTH_RATIO, row, ratio, value, IERR);
   if (IERR != 0) IERR += 20;
