@@ -41,7 +41,8 @@ double revision_4_modulus(common& cmn) {
 
 /// Curves of the codes 101, 293 and 293 for both layers, after the modification.
 void modify(common& cmn) {
-  for (int i = 1; i <= 2; ++i) PYAUTO(cmn, i, 1, 101), TZMISC(cmn, i, 1, 293), QZMISC(cmn, i, 1, 293);
+  PYAUTO(cmn, 1, 1, 101), TZMISC(cmn, 1, 1, 293), QZMISC(cmn, 1, 1, 293);
+  PYAUTO(cmn, 2, 1, 101), TZMISC(cmn, 2, 1, 293), QZMISC(cmn, 2, 1, 293);
   MODIFY(cmn);
 }
 
