@@ -95,6 +95,7 @@ places single_places(common& c) {
   return {
       {"D", {&c.DIAM(1), &c.DIAMP}},
       {"ZCYCL", {&c.ZCYCL}},
+      {"Zt", {&c.ZBOTM(1)}},
       {"ZPWP", {&c.ZPWP}},
       {"wall", {&c.WALL}},
       {"tip", {&c.ZTIP}},

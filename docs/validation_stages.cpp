@@ -4,6 +4,7 @@
 
 #include "Control/layers/BUILD.hpp"
 #include "Control/layers/build5.hpp"
+#include "IO/input/main_layer_tables.hpp"
 #include "SkinFriction/soilInput.hpp"
 #include "SoilCurves/axial/QZMISC.hpp"
 #include "SoilCurves/axial/TZMISC.hpp"
@@ -23,6 +24,14 @@ template <vector1<double> common::*VALUE>
 double profile(common& cmn) {
   BUILD5(cmn, 2);
   return (cmn.*VALUE)(2);
+}
+
+/// The strength by the line of main layer 2, at level 7. Zt of the input is the bottom of calculation
+/// layer 1.
+double strength_by_the_line(common& cmn) {
+  cmn.GAMM(1) = cmn.GAMM(2) = 20.05;
+  map_main_layers(cmn, Vrsk::Plin::TervakExchange::Tervak{});
+  return profile<&common::SURED>(cmn);
 }
 
 /// A value of layer 1, level 2, after the soil stage.
@@ -69,6 +78,10 @@ void add_stress(rows& all) {
         hole + "X = min(d * (1 + h / L), d + h)", profile<&common::DEPTH>);
   add(all, "strength of the stiff clay", "SU0 20, SU100 220, SFSU 1.2", "Su, kPa", "methods/layers.md, LAY-9",
       "Su = (SU0 + (SU100 - SU0) * 7 / 100) / SFSU", profile<&common::SURED>);
+  for (const char* input : {"SUTOP 100, SUBOT 220, Zt 4, SFSU 1.2", "SUTOP 100, SUBOT 220, Zt 2, SFSU 1.2"})
+    add(all, "strength of the stiff clay", input, "Su, kPa",
+        "methods/py.md, PY-STIFF-1: main layer from 4 to 10 m, calculation layer 1 down to Zt",
+        "Su = (SUTOP + (SUBOT - SUTOP) * (7 - Zt) / (10 - Zt)) / SFSU", strength_by_the_line);
 }
 
 void add_loads(rows& all) {
