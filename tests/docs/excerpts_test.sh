@@ -68,6 +68,6 @@ excerpt() { printf '<!-- from: deck FILE -->\n```\n%b\n```\n' "$1" >"$work/excer
 if [ -n "$programs" ]; then
   for deck in $(sed -n 's/^<!-- run: \([^ ]*\) .*/\1/p' "$root"/docs/*.md | sort -u); do run "$deck"; done
 fi
-check "$root/tests/golden/approved" "$root"/docs/*.md >"$work/result"
+check "$root/tests/golden/approved" "$root/README.md" "$root"/docs/*.md >"$work/result"
 cat "$work/result"
 [ "$(wc -l <"$work/result")" = 1 ] && [ "$(cat "$work/result")" != "0 excerpts" ]
