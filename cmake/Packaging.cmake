@@ -20,7 +20,7 @@ file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/man)
 add_custom_target(man ALL DEPENDS ${pages})
 install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
-# The documents stand to one another as in the repository, so that their links hold.
+# The documents are to one another as in the repository, so that their links hold.
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs
   FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg")

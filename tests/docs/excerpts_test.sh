@@ -81,6 +81,6 @@ if [ -n "$programs" ]; then
   (cd "$work/piles" && PATH=$programs:$PATH bash "$work/commands") >"$work/run/commands" 2>&1 || true
   for deck in $(sed -n 's/^<!-- check: \([^ ]*\) .*/\1/p' "$root"/docs/*.md | sort -u); do checked "$deck"; done
 fi
-check "$root/tests/golden/approved" "$root"/docs/*.md >"$work/result"
+check "$root/tests/golden/approved" "$root/README.md" "$root"/docs/*.md >"$work/result"
 cat "$work/result"
 [ "$(wc -l <"$work/result")" = 1 ] && [ "$(cat "$work/result")" != "0 excerpts" ]
