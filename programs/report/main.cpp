@@ -47,7 +47,7 @@ void run(const options& o) {
   if (same_file(o.input, o.output))
     throw usage_error("'" + o.output + "' is the input: the " + (o.layer > 0 ? "picture" : "page") +
                       " would replace it");
-  const interface_file file = read_interface_file(o.input, read_file(o.input));
+  const interface_file file = read_interface_file(o.input, open_file(o.input));
   o.layer > 0 ? write_picture(o, file) : write_page(o, file);
 }
 

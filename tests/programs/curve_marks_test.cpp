@@ -79,7 +79,8 @@ TEST(CurveMarks, ShapeEnds) {
 }
 
 TEST(CurveMarks, ByLayer) {
-  const profile p = read_interface_file("T.RIF", sample::rif({1, 5, 2, true, ""})).profiles[0];
+  const profile p =
+      read_interface_file("T.RIF", std::istringstream(sample::rif({1, 5, 2, true, ""}))).profiles[0];
   const auto marks = [&](std::size_t i, curve_kind kind) {
     return text_of(marks_of(p, p.layers[i], kind)[1]);
   };

@@ -56,7 +56,8 @@ TEST(ReportPlot, AxesAndCuts) {
 }
 
 TEST(ReportPage, TitlesAndUnits) {
-  const interface_file file = read_interface_file("T.RIF", sample::rif({1, 3, 2, false, "</script><b>&"}));
+  const interface_file file =
+      read_interface_file("T.RIF", std::istringstream(sample::rif({1, 3, 2, false, "</script><b>&"})));
   const std::string bare = page(file, "a<b.RIF", {});
   EXPECT_EQ(bare.find("<b>&"), std::string::npos);
   EXPECT_NE(bare.find("<p class=\"label\">&lt;/script&gt;&lt;b&gt;&amp;</p>"), std::string::npos);
@@ -80,7 +81,7 @@ std::size_t count_of(const std::string& part, const std::string& text) {
 
 TEST(ReportPicture, DrawsALayer) {
   const interface_file file =
-      read_interface_file("T.RIF", sample::rif({2, 5, 2, false, "</title><b> & \x01"}));
+      read_interface_file("T.RIF", std::istringstream(sample::rif({2, 5, 2, false, "</title><b> & \x01"})));
   const std::string picture = layer_picture(file.profiles[1], 1, {"kN", "m"});
   EXPECT_NE(picture.find("<title>Profile 2: BORING-2, layer 2 of 5</title>"), std::string::npos);
   EXPECT_NE(picture.find(">&lt;/title&gt;&lt;b&gt; &amp; \xEF\xBF\xBD</text>"), std::string::npos);
