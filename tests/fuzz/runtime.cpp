@@ -15,6 +15,7 @@ namespace {
 bool is_modest(std::string_view format) {
   std::size_t product = 1, number = 0;
   for (const char c : format) {
+    if (c == ' ' || c == '\t') continue;  // they part no number
     number = c >= '0' && c <= '9' ? 10 * number + static_cast<std::size_t>(c - '0') : 0;
     if (number > 0) product *= std::min<std::size_t>(number, 10);
     if (number > 999 || product > 100000) return false;
