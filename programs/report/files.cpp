@@ -27,20 +27,22 @@ std::FILE* open_beside(const std::string& name, std::string& chosen) {
 
 }  // namespace
 
-std::string read_file(const std::string& name) {
+std::ifstream open_file(const std::string& name) {
   std::error_code error;
   if (fs::exists(name, error) && !fs::is_regular_file(name, error))
     throw std::runtime_error(name + ": expected a regular file");
-  std::FILE* const file = std::fopen(name.c_str(), "rb");
-  if (file == nullptr) fail(name, "cannot be opened", errno);
-  std::string text;
-  char block[65536];
-  while (const std::size_t count = std::fread(block, 1, sizeof block, file)) text.append(block, count);
-  const bool failed = std::ferror(file) != 0;
-  const int cause = errno;
-  std::fclose(file);
-  if (failed) fail(name, "cannot be read", cause);
-  return text;
+  errno = 0;
+  std::ifstream file(name, std::ios::binary);
+  if (!file) fail(name, "cannot be opened", errno);
+  return file;
+}
+
+std::string read_file(const std::string& name) {
+  std::ifstream in = open_file(name);
+  std::ostringstream text;
+  text << in.rdbuf();
+  if (in.bad()) throw std::runtime_error(name + ": cannot be read");
+  return text.str();
 }
 
 bool same_file(const std::string& input, const std::string& output) {

@@ -27,7 +27,7 @@ void refuse_input(const std::string& input, const std::string& output, const cha
 void write_page(const options& o) {
   const std::string output = o.output.empty() ? "TERVAK.html" : o.output;
   refuse_input(o.input, output, "page");
-  const interface_file file = read_interface_file(o.input, read_file(o.input));
+  const interface_file file = read_interface_file(o.input, open_file(o.input));
   const page_facts facts{fs::path(o.input).filename().string(), o.u, run_log_beside(o.input),
                          read_deck_beside(o.input, file)};
   write_file(output, page(file, facts));
@@ -47,7 +47,7 @@ void in_file(const options& o, const std::string& what, std::size_t wanted, std:
 }
 
 void write_pictures(const options& o) {
-  const interface_file file = read_interface_file(o.input, read_file(o.input));
+  const interface_file file = read_interface_file(o.input, open_file(o.input));
   const std::size_t number = o.selection.profile;
   in_file(o, "a profile", number, file.profiles.size());
   const profile& p = file.profiles[number - 1];
@@ -74,8 +74,8 @@ void write_pictures(const options& o) {
 int compare(const options& o) {
   if (!o.output.empty())
     for (const std::string& input : {o.input, o.after}) refuse_input(input, o.output, "page");
-  const interface_file before = read_interface_file(o.input, read_file(o.input));
-  const interface_file after = read_interface_file(o.after, read_file(o.after));
+  const interface_file before = read_interface_file(o.input, open_file(o.input));
+  const interface_file after = read_interface_file(o.after, open_file(o.after));
   const comparison found = compare_files(before, after, o.tolerance);
   const std::string names = o.input + ", " + o.after;
   if (!o.output.empty()) write_file(o.output, compare_page(before, after, found, names, o.u));
@@ -98,7 +98,7 @@ int run(const options& o) {
       write_pictures(o);
       break;
     case task::tables:
-      std::cout << write_tables(o, read_interface_file(o.input, read_file(o.input)));
+      std::cout << write_tables(o, read_interface_file(o.input, open_file(o.input)));
       break;
     case task::comparison:
       return compare(o);
