@@ -18,6 +18,11 @@ class IMonoPileDataProvider;
 
 namespace tervak {
 
+/// Limits that are sizes as well: layers, calculation or main; diameters; points of a finished curve.
+inline constexpr int MOST_LAYERS = 500;
+inline constexpr int MOST_DIAMETERS = 50;
+inline constexpr int CURVE_POINTS = 29;
+
 /// What a layer is made of and by which methods its curves are made.
 struct layer_code {
   int TYP = 0;     ///< soil type (revision 4) or main layer (revision 5): index into the soil type table
@@ -31,11 +36,6 @@ struct depth_lookup {
   layer_number NL;
   double YI = 0;
 };
-
-/// Limits that are sizes as well: layers, calculation or main; diameters; points of a finished curve.
-inline constexpr int MOST_LAYERS = 500;
-inline constexpr int MOST_DIAMETERS = 50;
-inline constexpr int CURVE_POINTS = 29;
 
 /// Year, month from 0, day, hour, minute, second of local time.
 using time_array = std::array<int, 6>;
