@@ -14,6 +14,12 @@ namespace {
 
 constexpr double CONE = 0.036;  // diameter of the penetrometer's cone, m
 
+int check_form(int MCSAND) {
+  if (MCSAND < 3) return 1;
+  if (MCSAND > 5) return 2;
+  return 0;
+}
+
 bool plugs(int MCSAND, double DR, double CPTAVR, double DIAM, double DI) {
   const double limit = 2 * (DR - sp(0.3f));
   if (MCSAND == 3) return limit > DIAM;
@@ -35,10 +41,7 @@ double open_tip_stress(int MCSAND, double CPTAVR, double DR36) {
 void ICPXXTS(common& cmn, int MCSAND, double SIGZ, double DR, double CPTTIP, double CPTAVR, double DIAM,
              double WALL, int IDOPCL, double QINS, double& QPLGD, double& QPLUG, double& QCORE, int& IDTIP,
              int& IERR) {
-  IERR = check_tip_arguments(MCSAND > 5   ? 2
-                             : MCSAND < 3 ? 1
-                                          : 0,
-                             SIGZ, DR, CPTTIP, CPTAVR, 200000, DIAM, WALL, IDOPCL);
+  IERR = check_tip_arguments(check_form(MCSAND), SIGZ, DR, CPTTIP, CPTAVR, 200000, DIAM, WALL, IDOPCL);
   if (IERR != 0) {
     remark(cmn, "(/,' **** SR/ICPXXTS ERROR   IERR =',i6)", IERR);
     return;

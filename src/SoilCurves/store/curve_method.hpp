@@ -51,10 +51,16 @@ struct curve_method {
 using curve_methods = std::span<const curve_method>;
 
 /// The row of a code, null where there is none.
-inline const curve_method* find_method(curve_methods methods, int code) {
+constexpr const curve_method* find_method(curve_methods methods, int code) {
   const auto found = std::find_if(methods.begin(), methods.end(),
                                   [code](const curve_method& row) { return row.code == code; });
   return found == methods.end() ? nullptr : &*found;
+}
+
+/// What each table asserts: no code has two rows.
+constexpr bool each_code_once(curve_methods methods) {
+  return std::all_of(methods.begin(), methods.end(),
+                     [methods](const curve_method& row) { return find_method(methods, row.code) == &row; });
 }
 
 /// True where a deck of the revision may give the code.
