@@ -78,7 +78,7 @@ std::string whole_layer(const told_profile& profile, const choice& chosen, const
 std::string listed_layer(const told_profile& profile, int NL) {
   std::string text = layer_line(profile, NL) + "\n";
   if (const told_subject* axial = profile.find(part::axial, NL, 0))
-    text += "  axial: " + branches(*axial) + "\n";
+    text += "  axial: " + branches(*axial) + std::to_string(axial->steps.size()) + " steps\n";
   for (int ND = 1; ND <= static_cast<int>(profile.diameters.size()); ++ND)
     for (const part family : CURVES)
       if (const told_subject* subject = profile.find(family, NL, ND))
