@@ -62,7 +62,7 @@ std::string picture(const told_profile& profile, const std::vector<curve_point>&
   plot.box = BOX;
   plot.x = report::make_axis(0, end, "displacement, " + unit_text(profile, in::length), BOX.across());
   plot.y = report::make_axis(0, peak, "stress, " + unit_text(profile, in::stress));
-  plot.lines.push_back({0, report::clip_to(points, 0, end), 1});
+  plot.lines.push_back({0, report::clip_to(points, 0, end)});
   return "<figure>" + report::svg(plot) + "</figure>\n";
 }
 

@@ -49,6 +49,14 @@ bool same_file(const std::string& input, const std::string& output) {
          fs::weakly_canonical(input, error) == fs::weakly_canonical(output, error);
 }
 
+void make_directory(const std::string& name) {
+  std::error_code error;
+  fs::create_directories(name, error);
+  if (fs::is_directory(name)) return;
+  if (fs::exists(name)) throw std::runtime_error(name + ": something other than a directory stands there");
+  fail(name, "cannot be made", error.value());
+}
+
 void write_file(const std::string& name, const std::string& text) {
   std::error_code error;
   if (fs::exists(name, error) && !fs::is_regular_file(name, error))
@@ -61,9 +69,11 @@ void write_file(const std::string& name, const std::string& text) {
     good = false;
     cause = errno;
   }
-  if (good && std::rename(part.c_str(), name.c_str()) != 0) {
-    good = false;
-    cause = errno;
+  if (good) {
+    // The rename of this library replaces a file on every system.
+    fs::rename(part, name, error);
+    good = !error;
+    cause = error.value();
   }
   if (good) return;
   std::remove(part.c_str());

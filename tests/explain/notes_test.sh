@@ -61,5 +61,5 @@ for text in 'id="p1-l1-d1-py"' '<svg' '</html>'; do
   grep -qF "$text" "$work/note.html" || bad "no $text in the page"
 done
 [ -z "$(ls -A "$TMPDIR")" ] || bad "left behind: $(ls -A "$TMPDIR")"
-[ -z "$(git status --porcelain -- . 2>/dev/null)" ] || bad "left in examples: $(git status --porcelain -- .)"
+[ -z "$(git ls-files --others -- . 2>/dev/null)" ] || bad "left in examples: $(git ls-files --others -- .)"
 exit $failed

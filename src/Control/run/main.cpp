@@ -1,8 +1,15 @@
 #include <cstdio>
 #include <memory>
 
+#include "BlockKeeper/ExhaustedMemory.hpp"
 #include "Control/run/CONTRL.hpp"
 #include "Control/state/common.hpp"
+
+namespace {
+
+[[gnu::init_priority(101)]] const BlockKeeper::ExhaustedMemory<255> exhausted_memory;  // -1
+
+}  // namespace
 
 /// Everything lies in the current directory. An argument is a misunderstanding, and then no file is touched.
 int main(int argc, char**) {
