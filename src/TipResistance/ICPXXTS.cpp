@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "TipResistance/tip_checks.hpp"
@@ -52,6 +53,8 @@ void ICPXXTS(common& cmn, int MCSAND, double SIGZ, double DR, double CPTTIP, dou
   const double DR36 = DIAM / CONE;
   if (IDOPCL == 2) {
     QPLGD = closed_tip_stress(MCSAND, CPTAVR, DR36) * AF;
+    note(cmn, equation_of("AX-ICP-T1"), "sand, closed",
+         {{"qcm", CPTAVR, in::stress}, {"D", DIAM, in::length}});
     QPLUG = 0;
     QCORE = 0;
     IDTIP = 2;
@@ -59,7 +62,12 @@ void ICPXXTS(common& cmn, int MCSAND, double SIGZ, double DR, double CPTTIP, dou
     const double QP = open_tip_stress(MCSAND, CPTAVR, DR36) * AF;
     const double QA = AN * CPTTIP;
     QCORE = QA;
-    if (plugs(MCSAND, DR, CPTAVR, DIAM, DI)) {
+    const bool plugged = plugs(MCSAND, DR, CPTAVR, DIAM, DI);
+    note(cmn, equation_of("AX-ICP-T2"), plugged ? "sand, plugged" : "sand, not plugged",
+         {{"Di", DI, in::length}, {"Dr", DR}, {"qcm", CPTAVR, in::stress}});
+    note(cmn, plugged ? equation_of("AX-ICP-T3") : equation_of("AX-ICP-T4"),
+         {{"qc", CPTTIP, in::stress}, {"D", DIAM, in::length}, {"As / Ap", AN / AF}});
+    if (plugged) {
       QPLGD = std::max(QP, QA);
       double QS = QA + QINS;
       if (QPLGD > QS) QS = QPLGD * 1.5;

@@ -13,6 +13,7 @@
 #include "Control/run/run_files.hpp"
 #include "Control/state/ECHO.hpp"
 #include "Control/state/identification.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "IO/input/READGE.hpp"
 #include "IO/interface_file/TervakRIFWriter.hpp"
@@ -111,6 +112,7 @@ void print_heading(common& cmn, identity& id) {
 }
 
 bool read_profile(common& cmn, identity& id, int PROFILECOUNT) {
+  if (cmn.NOTE != nullptr) cmn.NOTE->begin_profile(PROFILECOUNT);
   ResetLayerLists(cmn);
   READGE(cmn, PROFILECOUNT);
   if (cmn.IERR != 0) {

@@ -37,6 +37,8 @@ struct depth_lookup {
   double YI = 0;
 };
 
+class note_listener;
+
 /// Year, month from 0, day, hour, minute, second of local time.
 using time_array = std::array<int, 6>;
 
@@ -171,6 +173,8 @@ struct common {
   std::shared_ptr<Varno::TervakLibrary::IO::TervakRIFWriter> RIFWRITER;      ///< one for the whole run
   std::shared_ptr<Varno::TervakLibrary::IO::TervakUnitConverter> CONVERTER;  ///< of the present profile
   std::shared_ptr<Varno::KestraCommonLibrary::CommonData::IMonoPileDataProvider> MONOPILE;  ///< may be null
+
+  note_listener* NOTE = nullptr;  ///< hears every step of the run, see note.hpp; null in `tervak`
 
   [[nodiscard]] int MIDPNT() const { return MAXPNT / 2 + 1; }
 };

@@ -1,0 +1,82 @@
+#include "explain/deck_run.hpp"
+
+#include <stdlib.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+
+#include "Control/run/CONTRL.hpp"
+
+namespace tervak::explain {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An empty directory, the current one until it is removed.
+class scratch_directory {
+ public:
+  scratch_directory() {
+    std::string name = (fs::temp_directory_path() / "tervak-explain-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr)
+      throw std::runtime_error(name + ": no scratch directory can be made: " + std::strerror(errno));
+    path_ = name;
+  }
+  ~scratch_directory() {
+    std::error_code ignored;
+    fs::current_path(home_, ignored);
+    fs::remove_all(path_, ignored);
+  }
+  scratch_directory(const scratch_directory&) = delete;
+  scratch_directory& operator=(const scratch_directory&) = delete;
+  [[nodiscard]] const fs::path& path() const { return path_; }
+
+ private:
+  fs::path home_ = fs::current_path(), path_;
+};
+
+/// The run log's lines about a failure, and whether it ends with a normal exit.
+void read_log(told_run& run) {
+  std::ifstream log("TERVAK.MLG", std::ios::binary);
+  bool about_failure = false;
+  for (std::string line; std::getline(log, line);) {
+    std::erase(line, '\r');
+    if (line.find("NORMAL EXIT FROM TERVAK") != std::string::npos) run.whole = true;
+    if (line.find("EXIT FROM TERVAK") != std::string::npos) break;
+    if (line.starts_with(" ****")) about_failure = true;
+    if (line.starts_with(" +++++")) about_failure = false;
+    if (about_failure && !line.empty()) run.stop.push_back(line.substr(1));
+  }
+  if (run.whole) run.stop.clear();
+}
+
+}  // namespace
+
+told_run run_deck(const std::string& deck) {
+  const fs::path source = fs::absolute(deck);
+  const fs::path nodes = source.parent_path() / "PILEPLOT.TXT";
+  const scratch_directory scratch;
+  for (const char* name : {"TERVAK.INP", "tervak.inp"}) fs::copy_file(source, scratch.path() / name);
+  if (fs::is_regular_file(nodes)) fs::copy_file(nodes, scratch.path() / "PILEPLOT.TXT");
+  fs::current_path(scratch.path());
+
+  auto cmn = std::make_unique<common>();
+  note_book book(*cmn);
+  cmn->NOTE = &book;
+  try {
+    CONTRL(*cmn);
+  } catch (...) {
+    // A stop has said on the run log why.
+  }
+  book.end_run();
+  told_run run{book.profiles(), false, book.last(), {}};
+  cmn.reset();  // closes the log of a run that broke off
+  read_log(run);
+  return run;
+}
+
+}  // namespace tervak::explain
