@@ -21,5 +21,5 @@ status=0
 [ "$status" = 1 ] && grep -q 'standard output cannot be written' "$work/said" || { echo "closed output: $status"; exit 1; }
 "$2" --csv "$work/open" "$run/TERVAK.RIF" >"$work/said"
 diff -r "$work/open" "$work/closed"
-rm -r "$work/open" "$work/closed"
+rm -r "$work/open" "$work/closed" "$work/said"
 MPLCONFIGDIR=$work "$python" "$3/tests/programs/tables_test.py" "$2" "$work" "$3/docs/outputs.md"
