@@ -4,8 +4,7 @@
 #   golden.sh PROGRAM [DECK...]             compare; without decks: all of examples/ and tests/golden/
 #   golden.sh --approve PROGRAM [DECK...]   take the present outputs over, to be looked at with git diff
 #
-# What differs from run to run is masked in one place, below: stamps, the machine's rows of the banner, and the
-# lines 2 to 4 of the DATE record.
+# What differs from run to run is masked by mask.sh.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../.." && pwd)
@@ -18,19 +17,7 @@ program=$(realpath "${1:?usage: golden.sh [--approve] PROGRAM [DECK...]}")
 shift
 [ $# -gt 0 ] || set -- "$root"/examples/*.inp "$root"/examples/*/*.inp "$here"/*.inp "$here"/*/*.inp
 
-mask() { # file
-  case $(basename "$1") in
-    TERVAK.MLG)
-      sed -i -e 's/\(Access time  : \).\{0,25\}/\1#/' -e 's/User id      : .\{0,25\}/#/' \
-        -e 's/^ *\(Computer         : \).*/\1#/' -e 's/\(Computer         : \).*/\1#/' \
-        -e 's/\(Impl. update     : \).*/\1#/' -e 's/ *\(Operating system : \).*/\1#/' \
-        -e 's/ *\(CPU id           : \).*/\1#/' -e 's/\(Installation     : \).*/\1#/' "$1" ;;
-    TERVAK.LIS)
-      sed -i -e 's/\(THIS RUN WAS STARTED :  \).*/\1#/' -e 's/\( Time = \).*/\1#/' "$1" ;;
-    TERVAK.RIF)
-      sed -i -e '4,6s/.*/#/' "$1" ;;
-  esac
-}
+. "$here/mask.sh"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -23,7 +23,7 @@ answers() { # status, line that must stand in the answer; then the command
   "$@" >answer 2>&1 </dev/null || got=$?
   [ $got = "$status" ] && grep -qxF -- "$line" answer
 }
-task() { SLURM_ARRAY_TASK_ID=$1 bash bin/field.slurm decks.txt "tasks of a field"; }
+task() { SLURM_ARRAY_JOB_ID=42 SLURM_ARRAY_TASK_ID=$1 bash bin/field.slurm decks.txt "tasks of a field"; }
 counted() { [ "$(grep -lx 0 results/*/run.status | wc -l) $(ls -d results/*/TERVAK.RIF | wc -l)" = "19 19" ]; }
 stamped() { sed -e 's/STARTED :.*//; s/ Time = .*//' "$1/TERVAK.LIS"; sed 4,6d "$1/TERVAK.RIF"; cat "$1"/*.fem; }
 same() { [ "$(stamped "$1" | wc -l)" -gt 500 ] && cmp <(stamped "$1") <(stamped "$2") && grep -q '"B 13 *"' "$1/TERVAK.MLG"; }
@@ -31,7 +31,7 @@ same() { [ "$(stamped "$1" | wc -l)" -gt 500 ] && cmp <(stamped "$1") <(stamped 
 check "a good run" answers 0 "1 of 1 runs are good." run-field "my decks/B 7.inp"
 sed -i 's/^DIAM/DAIM/' "my decks/B 7.inp"
 check "a deck that has changed" answers 1 "          The deck or its PILEPLOT.TXT has changed since its run." run-field --tell "my decks"
-check "nineteen of twenty" answers 1 "19 of 20 runs are good." run-field -j 4 "my decks"
+check "nineteen of twenty" answers 1 "19 of 20 runs are good." run-field -j4 "my decks"
 check "nineteen have results, the broken one none of its earlier run" counted
 check "the broken one by name" grep -qxF "FAILED  B 7  (deck my decks/B 7.inp, answer results/B 7/run.txt)" answer
 check "its fault" grep -q '^          my decks/B 7\.inp:[0-9]*:1: unknown keyword "DAIM"' answer
@@ -39,20 +39,36 @@ check "the list to run again" cmp results/failed.txt <(echo "my decks/B 7.inp")
 rm "results/B 7/run.txt"
 check "a failed run that said nothing" answers 1 "          tervak-run ended with status 1 and said nothing." run-field --tell "my decks"
 cp "my decks/B 8.inp" "my decks/B 7.inp"
-check "the mended one alone" answers 0 "1 of 1 runs are good." run-field -l results/failed.txt
+check "the mended one alone" answers 0 "1 of 1 runs are good." run-field -lresults/failed.txt
 cp "my decks/B 7.inp" "other/b 7.INP"
+cp "$examples/pile-nodes/PILEPLOT.TXT" "my decks"
+check "pile nodes that came after the run" answers 1 "          The deck or its PILEPLOT.TXT has changed since its run." \
+  run-field --tell "my decks/B 7.inp"
+rm "my decks/PILEPLOT.TXT"
 check "two of one name" answers 2 "run-field: two decks of one name: my decks/B 7.inp and other/b 7.INP; run them in two calls with two -o" \
   run-field "my decks" other
 
 printf 'my decks/B %s.inp\r\n' {1..20} >decks.txt
+tell() { run-field --tell -l decks.txt -o "tasks of a field"; }
+check "a field of which no task began" answers 1 "The decks to run again are listed in tasks of a field/failed.txt." tell
+check "all its decks to run again" cmp "tasks of a field/failed.txt" <(tr -d '\r' <decks.txt)
 check "task 13" answers 0 "The run is good; 1 warning." task 13
 tervak-run "my decks/B 13.inp" alone >/dev/null
 check "task 13 and tervak-run agree" same "tasks of a field/B 13" alone
 check "a task beyond the list" answers 2 "field.slurm: task 21 is beyond the list: decks.txt has 20 lines" task 21
-check "tasks that have not run" answers 1 "1 of 20 runs are good." run-field --tell -l decks.txt -o "tasks of a field"
+mkdir third && cp "my decks/B 13.inp" third && echo "third/B 13.inp" >>decks.txt
+check "a second task of one name" answers 2 "field.slurm: two decks of one name: lines 13 and 21 of decks.txt; B 13 is the run of line 13" task 21
+sed -i 21d decks.txt
+printf '#!/bin/sh\n[ "$6" != 42 ] || printf "42_7\\n42_9\\n"\n' >bin/squeue && chmod +x bin/squeue
+check "an array at work" answers 3 "19 have not ended; Slurm array 42 is at work, tasks left: 2." tell
+check "none of it failed" cmp "tasks of a field/failed.txt" /dev/null
+printf '#!/bin/sh\necho "slurm_load_jobs error: Invalid job id specified" >&2; exit 1\n' >bin/squeue
+check "an array that has ended" answers 1 "1 of 20 runs are good." tell
 
 rm bin/tervak
 printf '#!/bin/sh\nkill -TERM "$FIELD"\nexec sleep 60\n' >bin/tervak && chmod +x bin/tervak
 interrupted() { bash -c 'FIELD=$$ exec run-field -j 1 "my decks"'; }
 check "an interrupted field" answers 143 "0 of 20 runs are good." interrupted
+check "a run-field at work" answers 3 "20 have not ended; another run-field is at work." \
+  flock results/.run-field.lock run-field --tell "my decks"
 exit $failures
