@@ -1,6 +1,7 @@
 #include "explain/note_page.hpp"
 
 #include <algorithm>
+#include <sstream>
 
 #include "explain/note_text.hpp"
 #include "report/svg_plot.hpp"
@@ -106,6 +107,23 @@ std::string layer_html(const told_profile& profile, const choice& chosen, const 
 
 }  // namespace
 
+namespace {
+
+/// A line break is no character of a name, which is all that the escape keeps.
+std::string lines_html(const std::string& text) {
+  std::string html;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) html += escape_html(line) + "\n";
+  return html;
+}
+
+}  // namespace
+
+std::string too_large(const std::string& page) {
+  return "the page would have " + std::to_string(page.size() / 1'000'000) +
+         " MB, at most 30 are written: choose a layer with --layer";
+}
+
 std::string note_page(const told_run& run, const choice& chosen, const manual_places& places,
                       const std::string& name) {
   std::string html =
@@ -120,7 +138,7 @@ std::string note_page(const told_run& run, const choice& chosen, const manual_pl
     for (int NL = 1; NL <= static_cast<int>(profile.layers.size()); ++NL)
       if (chosen.layer == 0 || chosen.layer == NL) html += layer_html(profile, chosen, places, NL);
   }
-  if (!run.whole) html += "<h2 id=\"stop\">Stop</h2>\n<pre>" + escape_html(stop_text(run)) + "</pre>\n";
+  if (!run.whole) html += "<h2 id=\"stop\">Stop</h2>\n<pre>" + lines_html(stop_text(run)) + "</pre>\n";
   return html + "</body></html>\n";
 }
 

@@ -121,11 +121,21 @@ function panelHeading(profile, l, n) {
   return `<h3>${kind.name}${code ? ` <span>${esc(code)}</span>` : ''}</h3>`;
 }
 
+// Where the calculation note explains these curves; that of T-Z also has the axial capacity.
+function noteLinks(profile, l, n, shown) {
+  if (!data.note || n > 2) return '';
+  const file = data.note.split('/').map(encodeURIComponent).join('/'), layer = `#p${profile.number}-l${l + 1}`;
+  const link = (id, text) => `<a href="${esc(file + layer + id)}">${esc(text)}</a>`;
+  const links = profile.diameters.map((_, d) => d).filter(shown).map((d) => link(`-d${d + 1}-${['py', 'tz', 'qz'][n]}`, diameterName(profile, d)));
+  if (n === 1 && profile.axial[l]) links.push(link('-axial', 'axial capacity'));
+  return `<p class="note why">Calculation note: ${links.join(', ')}</p>`;
+}
+
 function panel(profile, l, n, range, shown) {
   const k = profile.layers[l][n], kind = profile.kinds[n];
   return `<div class="panel" data-kind="${n}">${panelHeading(profile, l, n)}${curvePlot(profile, l, n, range, shown)}` +
     '<p class="readout">Point at a curve, or use the arrow keys in the plot, to read its numbers.</p>' +
-    `<p class="note">${esc(panelNote(profile, k, kind, n, range, shown))}</p>${markLists(profile, k, kind, shown)}</div>`;
+    `<p class="note">${esc(panelNote(profile, k, kind, n, range, shown))}</p>${noteLinks(profile, l, n, shown)}${markLists(profile, k, kind, shown)}</div>`;
 }
 
 function layerSummary(profile, l) {
