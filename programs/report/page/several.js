@@ -24,20 +24,29 @@ function plainLabels([W, H, L, R, T, B], x, y) {
     spanAt('tx', 0.5 * (L + W - R), H - B + 32, `${y.title} over ${x.title}`);
 }
 
+// A circle is printed as eight curves, which takes twice the paper's bytes of an octagon.
+function octagon(marker) {
+  const circle = /^m-([\d.]+) 0a/.exec(marker);
+  if (!circle) return marker;
+  const r = +circle[1], a = px(0.29 * r), b = px(0.71 * r);
+  return `m-${r} 0l${a} ${b}l${b} ${a}l${b}-${a}l${a}-${b}l-${a}-${b}l-${b}-${a}l-${b} ${a}z`;
+}
+
 // A line as pieces between two points, which have no inside, so that line and markers are one path. A browser that
-// prints makes outlines of each dash of a pattern, which takes minutes: dashes are pieces, too.
+// prints makes outlines of each dash of a pattern, which takes minutes: dashes are pieces, too. A white marker stays empty.
 function plainLine(style, lines, dots) {
   const [colour, dash, marker, fill] = data.styles[style];
   const pieces = (points) => (dash === 'none' ? dashed(points, [Infinity]) : dashed(points, dash.split(' ').map((n) => 2 * n)));
-  return `<path class="both" stroke="${colour}" fill="${fill}" d="${lines.map(pieces).join('')}` +
-    `${dots.map(([x, y]) => `M${px(x)} ${px(y)}${marker}`).join('')}"/>`;
+  return `<path class="both" stroke="${colour}" fill="${fill === '#fff' ? 'none' : fill}" d="${lines.map(pieces).join('')}` +
+    `${dots.map(([x, y]) => `M${px(x)} ${px(y)}${octagon(marker)}`).join('')}"/>`;
 }
 
 function plainPlot(profile, l, n, range, shown) {
   const k = profile.layers[l][n], kind = profile.kinds[n], scales = panelScales(profile, k, kind, range);
+  const near = profile.diameters.filter((_, d) => shown(d)).length > 3 ? 40 : 16;
   let out = plainFrame(curveBox, scales.x, scales.y);
   for (let d = 0; d < profile.diameters.length; ++d)
-    if (shown(d)) out += plainLine(d, linesOf(k, d, scales, range), dotsOf(curveOf(k, d), scales, 16));
+    if (shown(d)) out += plainLine(d, linesOf(k, d, scales, range), dotsOf(curveOf(k, d), scales, near));
   return svgOf(curveBox, 'plot', `${kind.name} curves of layer ${l + 1}`, `${out}<text>${plainLabels(curveBox, scales.x, scales.y)}` +
     letters(k, shown, scales, 20).map((p) => spanAt(p.look ? 'mk look' : 'mk', p.at[0], p.at[1] - 7, p.text)).join('') + '</text>');
 }
