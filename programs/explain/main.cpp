@@ -39,7 +39,7 @@ void check_choice(const choice& chosen, const told_run& run) {
   in_deck("diameter", chosen.diameter, diameters);
 }
 
-void write_page(const options& o, const told_run& run, const manual_places& places) {
+void write_page(const options& o, const told_run& run, const deck_places& places) {
   const std::string page =
       note_page(run, o.chosen, places, std::filesystem::path(o.deck).filename().string());
   if (page.size() > LARGEST_PAGE) throw usage_error(too_large(page));
@@ -64,9 +64,9 @@ int explain(const options& o) {
   if (os::interrupted() != 0) os::end_interrupted();  // what it made is removed
   check_choice(o.chosen, run);
   if (o.output.empty())
-    std::cout << text_note(run, o.chosen, manual_places(deck));
+    std::cout << text_note(run, o.chosen, deck_places(deck));
   else
-    write_page(o, run, manual_places(deck));
+    write_page(o, run, deck_places(deck));
   return run.whole ? WHOLE : STOPPED;
 }
 

@@ -66,16 +66,15 @@ std::string picture(const told_profile& profile, const std::vector<curve_point>&
   return "<figure>" + report::svg(plot) + "</figure>\n";
 }
 
-std::string curve_html(const told_profile& profile, const manual_places& places, part family, int NL, int ND,
+std::string curve_html(const told_profile& profile, const deck_places& places, part family, int NL, int ND,
                        const std::string& anchor) {
   const told_subject* subject = profile.find(family, NL, ND);
   if (subject == nullptr) return "";
   const double D = profile.diameters[static_cast<std::size_t>(ND) - 1];
-  const std::string given = places.of(profile, family, NL, ND);
   std::string html = "<h4 id=\"" + anchor + "-d" + std::to_string(ND) + "-" + anchor_name(family) + "\">" +
                      family_name(family) + ", D " + number(D) + ": " +
                      escape_html(method_name(profile.layers[static_cast<std::size_t>(NL) - 1], family)) +
-                     (given.empty() ? "" : ", given in the deck at " + given) + "</h4>\n";
+                     places.of(profile, family, NL, ND) + "</h4>\n";
   html += steps_table(profile, subject);
   const std::vector<curve_point>& curve = subject->finished.empty() ? subject->made : subject->finished;
   if (curve.empty()) return html;
@@ -85,8 +84,7 @@ std::string curve_html(const told_profile& profile, const manual_places& places,
   return html + "\n" + picture(profile, curve, family, D);
 }
 
-std::string layer_html(const told_profile& profile, const choice& chosen, const manual_places& places,
-                       int NL) {
+std::string layer_html(const told_profile& profile, const choice& chosen, const deck_places& places, int NL) {
   const told_layer& layer = profile.layers[static_cast<std::size_t>(NL) - 1];
   const std::string anchor = "p" + std::to_string(profile.number) + "-l" + std::to_string(NL);
   const std::string unit = unit_text(profile, in::length);
@@ -123,7 +121,7 @@ std::string too_large(const std::string& page) {
          " MB, at most 30 are written: choose a layer with --layer";
 }
 
-std::string note_page(const told_run& run, const choice& chosen, const manual_places& places,
+std::string note_page(const told_run& run, const choice& chosen, const deck_places& places,
                       const std::string& name) {
   std::string html =
       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n<title>Calculation note, " +

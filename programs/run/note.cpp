@@ -32,7 +32,7 @@ std::string page_of(const fs::path& directory, const fs::path& deck) {
     told.stop = lines_of(reading.refusal("\n"));
   else
     told = explain::run_deck((directory / "TERVAK.INP").string());
-  return explain::note_page(told, {}, explain::manual_places(reading), deck.filename().string());
+  return explain::note_page(told, {}, explain::deck_places(reading), deck.filename().string());
 }
 
 }  // namespace
