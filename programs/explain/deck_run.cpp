@@ -1,15 +1,11 @@
 #include "explain/deck_run.hpp"
 
-#include <stdlib.h>
-
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <memory>
-#include <stdexcept>
 
 #include "Control/run/CONTRL.hpp"
+#include "Platform/scratch_directory.hpp"
 
 namespace tervak::explain {
 
@@ -18,25 +14,20 @@ namespace {
 namespace fs = std::filesystem;
 
 /// An empty directory, the current one until it is removed.
-class scratch_directory {
+class run_place {
  public:
-  scratch_directory() {
-    std::string name = (fs::temp_directory_path() / "tervak-explain-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-      throw std::runtime_error(name + ": no scratch directory can be made: " + std::strerror(errno));
-    path_ = name;
-  }
-  ~scratch_directory() {
+  run_place() = default;
+  ~run_place() {
     std::error_code ignored;
     fs::current_path(home_, ignored);
-    fs::remove_all(path_, ignored);
   }
-  scratch_directory(const scratch_directory&) = delete;
-  scratch_directory& operator=(const scratch_directory&) = delete;
-  [[nodiscard]] const fs::path& path() const { return path_; }
+  run_place(const run_place&) = delete;
+  run_place& operator=(const run_place&) = delete;
+  [[nodiscard]] const fs::path& path() const { return scratch_.path(); }
 
  private:
-  fs::path home_ = fs::current_path(), path_;
+  os::scratch_directory scratch_;  // goes when nobody is in it
+  fs::path home_ = fs::current_path();
 };
 
 /// The run log's lines about a failure, and whether it ends with a normal exit.
@@ -59,7 +50,7 @@ void read_log(told_run& run) {
 told_run run_deck(const std::string& deck) {
   const fs::path source = fs::absolute(deck);
   const fs::path nodes = source.parent_path() / "PILEPLOT.TXT";
-  const scratch_directory scratch;
+  const run_place scratch;
   for (const char* name : {"TERVAK.INP", "tervak.inp"}) fs::copy_file(source, scratch.path() / name);
   if (fs::is_regular_file(nodes)) fs::copy_file(nodes, scratch.path() / "PILEPLOT.TXT");
   fs::current_path(scratch.path());

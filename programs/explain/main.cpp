@@ -8,15 +8,14 @@
 #include "explain/note_page.hpp"
 #include "explain/note_text.hpp"
 #include "explain/options.hpp"
+#include "Platform/process.hpp"
 #include "report/files.hpp"
 #include "TervakExchange/deck_reading.hpp"
 
 namespace {
 
+namespace os = tervak::os;
 using namespace tervak::explain;
-
-/// A page of more bytes is slow to open: a layer is asked for.
-constexpr std::size_t LARGEST_PAGE = 30'000'000;
 
 constexpr int WHOLE = 0, STOPPED = 1, REFUSED = 2;
 
@@ -40,12 +39,10 @@ void check_choice(const choice& chosen, const told_run& run) {
   in_deck("diameter", chosen.diameter, diameters);
 }
 
-void write_page(const options& o, const told_run& run, const manual_places& places) {
+void write_page(const options& o, const told_run& run, const deck_places& places) {
   const std::string page =
       note_page(run, o.chosen, places, std::filesystem::path(o.deck).filename().string());
-  if (page.size() > LARGEST_PAGE)
-    throw usage_error("the page would have " + std::to_string(page.size() / 1'000'000) +
-                      " MB, at most 30 are written: choose a layer with --layer");
+  if (page.size() > LARGEST_PAGE) throw usage_error(too_large(page));
   tervak::report::write_file(o.output, page);
   std::cout << stop_text(run);
 }
@@ -64,20 +61,23 @@ int explain(const options& o) {
     return REFUSED;
   }
   const told_run run = run_deck(o.deck);
+  if (os::interrupted() != 0) os::end_interrupted();  // what it made is removed
   check_choice(o.chosen, run);
   if (o.output.empty())
-    std::cout << text_note(run, o.chosen, manual_places(deck));
+    std::cout << text_note(run, o.chosen, deck_places(deck));
   else
-    write_page(o, run, manual_places(deck));
+    write_page(o, run, deck_places(deck));
   return run.whole ? WHOLE : STOPPED;
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
+  os::catch_interrupts();
   try {
     const int status = explain(parse_options({arguments + 1, arguments + count}));
     if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+    if (os::interrupted() != 0) os::end_interrupted();
     return status;
   } catch (const usage_error& error) {
     std::cerr << "tervak-explain: " << error.what() << "; see tervak-explain --help\n";

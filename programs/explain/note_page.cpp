@@ -1,6 +1,7 @@
 #include "explain/note_page.hpp"
 
 #include <algorithm>
+#include <sstream>
 
 #include "explain/note_text.hpp"
 #include "report/svg_plot.hpp"
@@ -65,16 +66,15 @@ std::string picture(const told_profile& profile, const std::vector<curve_point>&
   return "<figure>" + report::svg(plot) + "</figure>\n";
 }
 
-std::string curve_html(const told_profile& profile, const manual_places& places, part family, int NL, int ND,
+std::string curve_html(const told_profile& profile, const deck_places& places, part family, int NL, int ND,
                        const std::string& anchor) {
   const told_subject* subject = profile.find(family, NL, ND);
   if (subject == nullptr) return "";
   const double D = profile.diameters[static_cast<std::size_t>(ND) - 1];
-  const std::string given = places.of(profile, family, NL, ND);
   std::string html = "<h4 id=\"" + anchor + "-d" + std::to_string(ND) + "-" + anchor_name(family) + "\">" +
                      family_name(family) + ", D " + number(D) + ": " +
                      escape_html(method_name(profile.layers[static_cast<std::size_t>(NL) - 1], family)) +
-                     (given.empty() ? "" : ", given in the deck at " + given) + "</h4>\n";
+                     places.of(profile, family, NL, ND) + "</h4>\n";
   html += steps_table(profile, subject);
   const std::vector<curve_point>& curve = subject->finished.empty() ? subject->made : subject->finished;
   if (curve.empty()) return html;
@@ -84,8 +84,7 @@ std::string curve_html(const told_profile& profile, const manual_places& places,
   return html + "\n" + picture(profile, curve, family, D);
 }
 
-std::string layer_html(const told_profile& profile, const choice& chosen, const manual_places& places,
-                       int NL) {
+std::string layer_html(const told_profile& profile, const choice& chosen, const deck_places& places, int NL) {
   const told_layer& layer = profile.layers[static_cast<std::size_t>(NL) - 1];
   const std::string anchor = "p" + std::to_string(profile.number) + "-l" + std::to_string(NL);
   const std::string unit = unit_text(profile, in::length);
@@ -105,7 +104,24 @@ std::string layer_html(const told_profile& profile, const choice& chosen, const 
 
 }  // namespace
 
-std::string note_page(const told_run& run, const choice& chosen, const manual_places& places,
+namespace {
+
+/// A line break is no character of a name, which is all that the escape keeps.
+std::string lines_html(const std::string& text) {
+  std::string html;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) html += escape_html(line) + "\n";
+  return html;
+}
+
+}  // namespace
+
+std::string too_large(const std::string& page) {
+  return "the page would have " + std::to_string(page.size() / 1'000'000) +
+         " MB, at most 30 are written: choose a layer with --layer";
+}
+
+std::string note_page(const told_run& run, const choice& chosen, const deck_places& places,
                       const std::string& name) {
   std::string html =
       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n<title>Calculation note, " +
@@ -119,7 +135,7 @@ std::string note_page(const told_run& run, const choice& chosen, const manual_pl
     for (int NL = 1; NL <= static_cast<int>(profile.layers.size()); ++NL)
       if (chosen.layer == 0 || chosen.layer == NL) html += layer_html(profile, chosen, places, NL);
   }
-  if (!run.whole) html += "<h2 id=\"stop\">Stop</h2>\n<pre>" + escape_html(stop_text(run)) + "</pre>\n";
+  if (!run.whole) html += "<h2 id=\"stop\">Stop</h2>\n<pre>" + lines_html(stop_text(run)) + "</pre>\n";
   return html + "</body></html>\n";
 }
 

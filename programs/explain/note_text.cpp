@@ -40,14 +40,12 @@ std::string points_text(const told_profile& profile, const std::vector<curve_poi
   return text;
 }
 
-std::string curve_text(const told_profile& profile, const manual_places& places, part family, int NL,
-                       int ND) {
+std::string curve_text(const told_profile& profile, const deck_places& places, part family, int NL, int ND) {
   const told_subject* subject = profile.find(family, NL, ND);
   if (subject == nullptr) return "";
-  const std::string given = places.of(profile, family, NL, ND);
   std::string text = "\n" + family_name(family) + ", " + diameter_text(profile, ND) + ": " +
                      method_name(profile.layers[static_cast<std::size_t>(NL) - 1], family) +
-                     (given.empty() ? "" : ", given in the deck at " + given) + "\n";
+                     places.of(profile, family, NL, ND) + "\n";
   text += steps_text(profile, subject);
   if (!subject->made.empty())
     text += "  As made: greatest stress " + peak_text(profile, subject->made) + "\n" +
@@ -57,7 +55,7 @@ std::string curve_text(const told_profile& profile, const manual_places& places,
   return text;
 }
 
-std::string whole_layer(const told_profile& profile, const choice& chosen, const manual_places& places,
+std::string whole_layer(const told_profile& profile, const choice& chosen, const deck_places& places,
                         int NL) {
   std::string text = "\n" + layer_line(profile, NL) + "\n";
   if (!chosen.family) text += steps_text(profile, profile.find(part::layer, NL, 0));
@@ -89,7 +87,7 @@ std::string listed_layer(const told_profile& profile, int NL) {
 
 }  // namespace
 
-std::string text_note(const told_run& run, const choice& chosen, const manual_places& places) {
+std::string text_note(const told_run& run, const choice& chosen, const deck_places& places) {
   std::string text;
   for (const told_profile& profile : run.profiles) {
     if (chosen.profile > 0 && chosen.profile != profile.number) continue;

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "explain/deck_places.hpp"
 #include "explain/deck_run.hpp"
-#include "explain/manual_places.hpp"
 #include "explain/options.hpp"
 
 namespace tervak::explain {
@@ -31,6 +31,6 @@ std::string units_line(const told_profile& profile);
 std::string stop_text(const told_run& run);
 
 /// The note for the terminal: of what was chosen, or the list of layers and curves.
-std::string text_note(const told_run& run, const choice& chosen, const manual_places& places);
+std::string text_note(const told_run& run, const choice& chosen, const deck_places& places);
 
 }  // namespace tervak::explain

@@ -10,6 +10,7 @@
 #include "report/files.hpp"
 #include "report/layer_picture.hpp"
 #include "report/mark_rows.hpp"
+#include "report/note_beside.hpp"
 #include "report/options.hpp"
 #include "report/page.hpp"
 #include "report/read_interface_file.hpp"
@@ -30,7 +31,7 @@ void write_page(const options& o) {
   refuse_input(o.input, output, "page");
   const interface_file file = read_interface_file(o.input, open_file(o.input));
   const page_facts facts{fs::path(o.input).filename().string(), o.u, run_log_beside(o.input),
-                         read_deck_beside(o.input, file)};
+                         read_deck_beside(o.input, file), find_note_beside(o.input, output)};
   write_file(output, page(file, facts));
   std::size_t layers = 0;
   for (const profile& p : file.profiles) layers += p.layers.size();

@@ -98,11 +98,18 @@ std::string given_json(const soil_displacement& s) {
   return array_of(std::initializer_list<double>{s.level, s.x, s.y, s.z, s.hole_diameter}, number_text);
 }
 
+std::string axial_note_json(const profile& p, const std::optional<note_beside>& note) {
+  std::size_t layer = 0;
+  return note
+             ? array_of(p.layers, [&](const auto&) { return note->has_axial(p.number, ++layer) ? "1" : "0"; })
+             : "null";
+}
+
 /// number, name, label; shown (index of the layer shown first), diameters, sea (level), scour (level of the
 /// general one), general (name, unit and value a row), given (soil displacements); kinds[] of curves;
 /// columns[] of the layer table; layers[] (see layer_data.hpp); marked[] (curve, mark, worth a look, layers,
 /// curves, worst); depth (see depth_data.hpp); capacity; deck (main layers, level of local scour, pile), null
-/// without one.
+/// without one; axial (1 by layer where the calculation note has its axial capacity), null without a note.
 std::string profile_json(const profile& p, const page_facts& facts, std::size_t index, value_lists& lists) {
   const units& u = facts.u;
   const std::vector<axial_capacity> capacities = axial_capacities(p, facts.deck.local_scour(index));
@@ -140,6 +147,8 @@ std::string profile_json(const profile& p, const page_facts& facts, std::size_t 
                array_of(capacities, [&](const axial_capacity& c) { return capacity_json(c, lists); }),
                ",\"deck\":",
                deck_json(facts.deck.of(index)),
+               ",\"axial\":",
+               axial_note_json(p, facts.note),
                ",\"layers\":",
                array_of(p.layers, [&](const layer& l) { return layer_data(p, l, u, lists) + "\n"; }),
                "}"});
@@ -184,6 +193,8 @@ std::string page_data(const interface_file& file, const page_facts& facts) {
                json_text(u.of_force()),
                "},\"log\":",
                log_json(facts.log),
+               ",\"note\":",
+               facts.note ? json_text(facts.note->address) : "null",
                ",\"no_deck\":",
                json_text(facts.deck.why_not),
                ",\"date\":",

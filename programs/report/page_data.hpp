@@ -4,6 +4,7 @@
 #include <string>
 
 #include "report/deck_beside.hpp"
+#include "report/note_beside.hpp"
 #include "report/rif_data.hpp"
 #include "report/run_log.hpp"
 #include "report/svg_plot.hpp"
@@ -18,12 +19,14 @@ struct page_facts {
   units u = {};
   std::optional<run_log> log = {};
   deck_beside deck = {};
+  std::optional<note_beside> note = {};
 };
 
 /// What the page's script draws from, as JSON. Ticks, styles, marks and their words come from here; the
 /// script puts them where they belong. A number that stands for a list is its place in `lists`.
 ///   file, units (named, length, stress, weight, force)
 ///   log        ending, good, messages[]; null without a run log
+///   note       the address of the calculation note; null without one
 ///   no_deck    why the deck beside the file is not used
 ///   date[]     the four lines of the file's date record
 ///   boxes      curve, depth: width, height and margins of a plot

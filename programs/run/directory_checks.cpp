@@ -17,9 +17,10 @@ namespace fs = std::filesystem;
 using companion::shown;
 
 /// What a run writes, moves or deletes, and what this program keeps.
-constexpr std::array NAMES = {"TERVAK.MLG",     "TERVAK.MLG.bak",     "TERVAK.LIS",    "TERVAK.LIS.bak",
-                              "soil_halde.fem", "soil_halde.fem.bak", "soil_70.fem",   "soil_70.fem.bak",
-                              "TERVAK.RIF",     "TEVRAK.RIF",         "TEVRAK.RIF.bak"};
+constexpr std::array NAMES = {
+    "TERVAK.MLG",         "TERVAK.MLG.bak",   "TERVAK.LIS",          "TERVAK.LIS.bak", "soil_halde.fem",
+    "soil_halde.fem.bak", "soil_70.fem",      "soil_70.fem.bak",     "TERVAK.RIF",     "TEVRAK.RIF",
+    "TEVRAK.RIF.bak",     "TERVAK.NOTE.html", "TERVAK.NOTE.html.bak"};
 constexpr std::array OWN_NAMES = {".tervak-run", ".tervak-run.lock"};
 
 constexpr std::string_view RUNTIME_PREFIX = "fem_io", UNIT_PREFIX = "fem_io_unit_";

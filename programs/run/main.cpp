@@ -12,6 +12,7 @@
 #include "run/directory_checks.hpp"
 #include "run/findings.hpp"
 #include "run/log_file.hpp"
+#include "run/note.hpp"
 #include "run/options.hpp"
 #include "run/placing.hpp"
 #include "run/refusal.hpp"
@@ -48,7 +49,8 @@ void show(const std::string& heading, const run::findings& found) {
   if (!found.text.empty()) std::cout << heading << '\n' << found.text << std::flush;
 }
 
-int make_run(const fs::path& program, const fs::path& directory, const run::deck_findings& deck) {
+int make_run(const run::options& o, const fs::path& program, const fs::path& directory,
+             const run::deck_findings& deck) {
   const run::findings of_deck = deck.of_deck();
   show(deck.refused() ? "faults of the deck:" : "warnings of the deck:", of_deck);
   const run::log_file log(directory);
@@ -63,8 +65,13 @@ int make_run(const fs::path& program, const fs::path& directory, const run::deck
   }
   if (facts.end.failure.empty() && os::interrupted() == 0)
     facts.results = companion::results_of(directory, program);
+  run::note_result note{{}, false};
+  if (o.note && os::interrupted() == 0) {
+    note = run::write_note(directory, o.deck);
+    std::cout << "note:       " << note.line << '\n';
+  }
   std::cout << verdict(facts);
-  return is_good(facts) ? GOOD : NOT_GOOD;
+  return is_good(facts) && !note.failed ? GOOD : NOT_GOOD;
 }
 
 /// `status`, that of this program, changes when the run begins and when it is known to be good.
@@ -82,6 +89,7 @@ void run_deck(const run::options& o, int& status) {
   run::check_directory(o.directory, o.deck);
   const run::placing files(o.deck, o.directory);
   files.place();
+  run::put_note_away(o.directory);
 
   const fs::path directory = fs::canonical(o.directory);
   std::cout << "deck:       " << shown(o.deck) << "\ndirectory:  " << shown(directory) << '\n';
@@ -89,7 +97,7 @@ void run_deck(const run::options& o, int& status) {
     std::cout << "pile nodes: PILEPLOT.TXT of this directory; none is beside the deck\n";
   std::cout << std::flush;
   status = NOT_GOOD;
-  const int found = make_run(program, directory, run::deck_findings(files.deck(), shown(o.deck)));
+  const int found = make_run(o, program, directory, run::deck_findings(files.deck(), shown(o.deck)));
   if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
   status = found;
 }

@@ -7,14 +7,17 @@ namespace tervak::run {
 namespace fs = std::filesystem;
 
 const char* const usage_text =
-    "usage: tervak-run DECK [DIRECTORY]\n"
+    "usage: tervak-run [--note] DECK [DIRECTORY]\n"
     "\n"
     "Makes DIRECTORY (by default the deck's name without its ending, here), puts DECK there under both names that\n"
     "tervak reads (and PILEPLOT.TXT when it is beside the deck), checks the deck, runs tervak there, shows the\n"
     "warnings and errors of the deck and of the run log, and checks by a second run in a temporary directory that\n"
     "the result files are whole.\n"
     "\n"
-    "Exit status: 0 the run is good; 1 it is not; 2 it was not started.\n";
+    "  --note  run once more and write TERVAK.NOTE.html into DIRECTORY: how each curve was made, step by step.\n"
+    "          The one of the run before becomes TERVAK.NOTE.html.bak, with every run.\n"
+    "\n"
+    "Exit status: 0 the run is good; 1 it is not, or the note could not be written; 2 it was not started.\n";
 
 fs::path default_directory(const fs::path& deck) {
   const fs::path name = deck.filename();
@@ -23,8 +26,9 @@ fs::path default_directory(const fs::path& deck) {
   return stem;
 }
 
-options parse_options(const std::vector<std::string>& words) {
+options parse_options(std::vector<std::string> words) {
   options out;
+  out.note = std::erase(words, "--note") > 0;
   if (!words.empty() && (words[0] == "-h" || words[0] == "--help")) {
     out.help = true;
     return out;

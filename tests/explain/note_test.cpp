@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "Control/run/CONTRL.hpp"
-#include "explain/manual_places.hpp"
+#include "explain/deck_places.hpp"
 #include "explain/note_book.hpp"
 #include "SoilCurves/axial/axial_methods.hpp"
 #include "SoilCurves/py/py_methods.hpp"

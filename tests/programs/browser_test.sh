@@ -41,8 +41,10 @@ field() {
 
 "$make_rif" 60 3 >"$work/TERVAK.RIF" || exit 1
 printf ' **** SR/READGE WARNING : A\r\n ERROR EXIT FROM TERVAK\r\n' >"$work/TERVAK.MLG"
+mkdir "$work/other" && echo '<h4 id="p1-l40-axial">' >"$work/TERVAK.NOTE.html"
+"$report" -o "$work/other/page.html" "$work/TERVAK.RIF" >"$work/said" && grep -q '"note":"../TERVAK.NOTE.html"' "$work/other/page.html" || exit 1
 "$report" --units kN,m -o "$work/page.html" "$work/TERVAK.RIF" >"$work/said" || exit 1
-check "nothing from elsewhere" "$(grep -cE '(src|href)="?(https?:|//|file:)|@import|url\(' "$work/page.html")" = 0
+check "nothing from elsewhere" "$(grep -cE '(src|href)="?(https?:|//|file:)|@import|url\("?(https?:|//|file:)' "$work/page.html")" = 0
 check "the state of the run" \
   "$(dump '' "return one('#title').textContent + '; ' + one('#state').textContent.replace(/ ·.* · 1/, ' · 1')")" \
   = "Sample &amp; &lt;profile&gt; of \"tests\"; ERROR EXIT FROM TERVAK · 1 warning and errors**** SR/READGE WARNING : A"
@@ -51,6 +53,10 @@ check "the fragment chooses layer and diameter" \
   "$(dump p1-l40-d2 "return one('#curves h2').textContent + '; ' + byId('layer').value + byId('diameter').value +
        '; ' + every('.panel svg.plot .line').length + '; ' + every('[aria-pressed=true]').length")" \
   = "Layer 40 of 60; 391; 5; 1"
+check "the panels lead to the calculation note" \
+  "$(dump p1-l40-d2 "const links = () => every('.why a').map((a) => a.getAttribute('href').slice(17)).join(' ');
+     const first = links(); key('body', 'ArrowRight'); return first + '; ' + links()")" \
+  = "p1-l40-d2-py p1-l40-d2-tz p1-l40-axial p1-l40-d2-qz; p1-l41-d2-py p1-l41-d2-tz p1-l41-d2-qz"
 check "arrows, the column and the legend choose" \
   "$(dump p1-l40 "key('body', 'ArrowRight'); key('body', 'ArrowRight'); key('body', 'ArrowLeft');
      const soil = one('svg.soil'), area = soil.getBoundingClientRect(), before = location.hash;

@@ -57,6 +57,12 @@ cp "$examples/pile-nodes/pile-nodes.inp" . && cp "$examples/pile-nodes/PILEPLOT.
 expect "those of the directory are told of" 0 "pile nodes: PILEPLOT.TXT of this directory" "" pile-nodes.inp
 expect "a refused deck, with the place and the earlier file" 1 "misspelt-keyword.inp:9:1: unknown keyword" "run log:" "$examples/faults/misspelt-keyword.inp" run
 check "called one of another run" grep -q 'TERVAK.RIF: not whole: is of another run' <<<"$answer"
+noted() { answers "$1" "note:       TERVAK.NOTE.html" "not written" --note "$2" noted && grep -q "$3" noted/TERVAK.NOTE.html; }
+check "the calculation note" noted 0 "$deck" 'id="p1-l2-d1-py"'
+check "of a run that stops, up to the stop" noted 1 "$examples/tutorial/tutorial-submerged.inp" 'P-Y DATA PROBLEM'
+check "of a refused deck, its faults" noted 1 "$examples/faults/misspelt-keyword.inp" 'misspelt-keyword.inp:9:1: unknown keyword'
+expect "without the option" 0 "$GOOD" "note:" "$deck" noted
+check "no note of an earlier run is left beside the results" [ "$(cd noted && ls -d *NOTE*)" = TERVAK.NOTE.html.bak ]
 expect "a missing deck" 2 "no such deck: nowhere.inp" "" nowhere.inp
 expect "too many words" 2 "found 3 words" "" a b c
 sed -e "s/^DIAM .*/DIAM $(seq -s ' ' 1 0.1 3.0)/; s/12.0      6/12.0     40/; s/50.0      8/50.0     40/" "$deck" >many.inp
@@ -76,7 +82,7 @@ sed -i 's/lower bound/upper bound/' other.inp
 expect "run, correct, run again" 0 "$GOOD" "" other.inp mine
 echo '* by hand' >>mine/TERVAK.INP
 check "one that was changed since" refuses mine "mine/TERVAK.INP is not "
-for name in TERVAK.INP tervak.inp PILEPLOT.TXT TERVAK.MLG TERVAK.LIS.bak TERVAK.RIF fem_io_unit_015 .tervak-run; do
+for name in TERVAK.INP tervak.inp PILEPLOT.TXT TERVAK.MLG TERVAK.LIS.bak TERVAK.RIF TERVAK.NOTE.html TERVAK.NOTE.html.bak fem_io_unit_015 .tervak-run; do
   rm -rf mine && mkdir mine && ln -s ../pile-nodes.inp "mine/$name"
   cp "$examples/pile-nodes/pile-nodes.inp" pile-nodes.inp && cp "$examples/pile-nodes/PILEPLOT.TXT" PILEPLOT.TXT
   deck=other.inp

@@ -34,47 +34,47 @@ function panelScales(profile, k, kind, range) {
   return { x, y, place };
 }
 
-// With `print` dashes are pieces of their own, and markers keep some distance.
-function curveLine(k, d, scales, range, print) {
-  const c = curveOf(k, d), dash = data.styles[d][1], pieces = print && dash !== 'none';
-  const points = c.x.map((v, i) => [v, c.s[i]]);
+// The lines of a curve as drawn: with decades each side for itself.
+function linesOf(k, d, scales, range) {
+  const c = curveOf(k, d), points = c.x.map((v, i) => [v, c.s[i]]);
   const runs = range !== 'log' ? [points] : [points.filter(([v]) => v > 0)];
   if (range === 'log' && !k.s) runs.push(points.filter(([v]) => v < 0).map(([v, s]) => [-v, s]).reverse());
-  let path = '';
-  for (const run of runs) {
-    const places = clip(run, scales.x.low, scales.x.high).map(([v, s]) => [scales.x.at(v), scales.y.at(s)]);
-    path += pieces ? dashed(places, dash.split(' ').map(Number)) : polyline(places);
-  }
-  // Where many points lie at one place, one marker is enough.
+  return runs.map((run) => clip(run, scales.x.low, scales.x.high).map(([v, s]) => [scales.x.at(v), scales.y.at(s)]));
+}
+
+// Where many points lie at one place, within `near`, one marker is enough.
+function dotsOf(c, scales, near) {
   const dots = [];
   for (let i = 0; i < c.x.length; ++i) {
     const at = scales.place(c, i), last = dots[dots.length - 1];
-    if (at && !(last && Math.abs(last[0] - at[0]) + Math.abs(last[1] - at[1]) < (print ? 16 : 1))) dots.push(at);
+    if (at && !(last && Math.abs(last[0] - at[0]) + Math.abs(last[1] - at[1]) < near)) dots.push(at);
   }
-  return styled(d, path, dots, pieces);
+  return dots;
 }
 
-// Letters of the marks at their points, equal ones that would cover each other once.
-function letters(k, shown, scales) {
+// Letters of the marks at their points, equal ones that would cover each other, within `near`, once.
+function letters(k, shown, scales, near) {
   const places = [];
   for (const [d, mark, look, , from, to] of k.m) {
     if (!shown(d) || from === to) continue;
     const at = scales.place(curveOf(k, d), to);
     if (!at) continue;
     const letter = data.marks[mark][0];
-    const there = places.find((p) => Math.abs(p.at[0] - at[0]) < 9 && Math.abs(p.at[1] - at[1]) < 9);
+    const there = places.find((p) => Math.abs(p.at[0] - at[0]) < near && Math.abs(p.at[1] - at[1]) < near);
     if (!there) places.push({ at, text: letter, look });
     else if (!there.text.includes(letter)) { there.text += letter; there.look = there.look || look; }
   }
-  return places.map((p) => textAt(p.look ? 'mk look' : 'mk', p.at[0], p.at[1] - 7, p.text)).join('');
+  return places;
 }
 
-function curvePlot(profile, l, n, range, shown, extra, print) {
+function curvePlot(profile, l, n, range, shown) {
   const k = profile.layers[l][n], kind = profile.kinds[n];
   const scales = panelScales(profile, k, kind, range);
   let out = frame(curveBox, scales.x, scales.y, false, curveBox[2] - 5);
-  for (let d = 0; d < profile.diameters.length; ++d) if (shown(d)) out += curveLine(k, d, scales, range, print);
-  return svgOf(curveBox, 'plot', `${kind.name} curves of layer ${l + 1}`, out + letters(k, shown, scales), extra);
+  for (let d = 0; d < profile.diameters.length; ++d)
+    if (shown(d)) out += styled(d, linesOf(k, d, scales, range).map(polyline).join(''), dotsOf(curveOf(k, d), scales, 1));
+  out += letters(k, shown, scales, 9).map((p) => textAt(p.look ? 'mk look' : 'mk', p.at[0], p.at[1] - 7, p.text)).join('');
+  return svgOf(curveBox, 'plot', `${kind.name} curves of layer ${l + 1}`, out, ' tabindex="0" aria-describedby="keys"');
 }
 
 // "peak 68.2 at z = 0.0152, residual 54.6 from z = 0.0305"
@@ -92,17 +92,17 @@ function markText(k, kind, [d, mark, , side, from, to, share]) {
   }
 }
 
-// One line a curve, those worth a look first. In a list of layers long lists of the method's own marks are counted only.
-function markLists(profile, k, kind, shown, alone) {
+// One line a curve, [letter, text], those worth a look first: groups of [title, class, lines].
+function markGroups(profile, k, kind, shown) {
   const lists = [[], []];
   for (const m of k.m)
-    if (shown(m[0]))
-      lists[m[2]].push(`<li><b>${data.marks[m[1]][0]}</b> ${esc(diameterName(profile, m[0]))}: ${data.marks[m[1]][1]}, ${esc(markText(k, kind, m))}</li>`);
-  const block = (title, css, items) => (items.length === 0 ? ''
-    : !alone && items.length > 3 && css === 'marks' ? `<p class="note">${title}: marks ${items.length}</p>`
-    : `<details class="${css}"${items.length <= 3 ? ' open' : ''}><summary>${title} (${items.length})</summary><ul>${items.join('')}</ul></details>`);
-  return block('Look here', 'marks look', lists[1]) + block('As the method makes it', 'marks', lists[0]);
+    if (shown(m[0])) lists[m[2]].push([data.marks[m[1]][0], `${diameterName(profile, m[0])}: ${data.marks[m[1]][1]}, ${markText(k, kind, m)}`]);
+  return [['Look here', 'marks look', lists[1]], ['As the method makes it', 'marks', lists[0]]];
 }
+
+const markLists = (profile, k, kind, shown) => markGroups(profile, k, kind, shown).map(([title, css, items]) => (items.length === 0 ? ''
+  : `<details class="${css}"${items.length <= 3 ? ' open' : ''}><summary>${title} (${items.length})</summary>` +
+    `<ul>${items.map(([letter, text]) => `<li><b>${letter}</b> ${esc(text)}</li>`).join('')}</ul></details>`)).join('');
 
 function panelNote(profile, k, kind, n, range, shown) {
   let far = 0, beyond = 0;
@@ -116,14 +116,26 @@ function panelNote(profile, k, kind, n, range, shown) {
     (range === 'working' && beyond ? `The curves go on to ±${sig(far)}${unitOf(kind.x)}.` : '');
 }
 
-function panel(profile, l, n, range, shown, alone) {
+function panelHeading(profile, l, n) {
+  const kind = profile.kinds[n], code = n < 3 ? kind.methods[column(profile, kind.name)[l]] : '';
+  return `<h3>${kind.name}${code ? ` <span>${esc(code)}</span>` : ''}</h3>`;
+}
+
+// Where the calculation note explains these curves; that of T-Z also has the axial capacity.
+function noteLinks(profile, l, n, shown) {
+  if (!data.note || n > 2) return '';
+  const file = data.note.split('/').map(encodeURIComponent).join('/'), layer = `#p${profile.number}-l${l + 1}`;
+  const link = (id, text) => `<a href="${esc(file + layer + id)}">${esc(text)}</a>`;
+  const links = profile.diameters.map((_, d) => d).filter(shown).map((d) => link(`-d${d + 1}-${['py', 'tz', 'qz'][n]}`, diameterName(profile, d)));
+  if (n === 1 && profile.axial[l]) links.push(link('-axial', 'axial capacity'));
+  return `<p class="note why">Calculation note: ${links.join(', ')}</p>`;
+}
+
+function panel(profile, l, n, range, shown) {
   const k = profile.layers[l][n], kind = profile.kinds[n];
-  const code = n < 3 ? kind.methods[column(profile, kind.name)[l]] : '';
-  const extra = alone ? ' tabindex="0" aria-describedby="keys"' : '';
-  return `<div class="panel" data-kind="${n}"><h3>${kind.name}${code ? ` <span>${esc(code)}</span>` : ''}</h3>` +
-    curvePlot(profile, l, n, range, shown, extra, !alone) +
-    (alone ? '<p class="readout">Point at a curve, or use the arrow keys in the plot, to read its numbers.</p>' : '') + `<p class="note">${esc(panelNote(profile, k, kind, n, range, shown))}</p>` +
-    markLists(profile, k, kind, shown, alone) + '</div>';
+  return `<div class="panel" data-kind="${n}">${panelHeading(profile, l, n)}${curvePlot(profile, l, n, range, shown)}` +
+    '<p class="readout">Point at a curve, or use the arrow keys in the plot, to read its numbers.</p>' +
+    `<p class="note">${esc(panelNote(profile, k, kind, n, range, shown))}</p>${noteLinks(profile, l, n, shown)}${markLists(profile, k, kind, shown)}</div>`;
 }
 
 function layerSummary(profile, l) {
@@ -135,16 +147,7 @@ function layerSummary(profile, l) {
     `; ${strength}; effective stress ${sig(at('SIGZRES'))}${unit('stress')}`;
 }
 
-// The diameters that are shown as one drawing, for each printed page.
-function printedLegend(profile, shown) {
-  const all = profile.diameters.map((_, d) => d).filter(shown), across = 6;
-  const cells = all.map((d, i) => `<g transform="translate(${140 * (i % across)} ${16 * Math.floor(i / across)})">` +
-    styled(d, 'M1 8H43', [[22, 8]]) + textAt('tl', 49, 12, diameterName(profile, d)) + '</g>');
-  return svgOf([140 * across, 16 * Math.ceil(all.length / across)], 'key', 'Diameters', cells.join(''));
-}
+const layerHeading = (profile, l) => `<h2>Layer ${l + 1} of ${profile.layers.length}</h2><p class="summary">${esc(layerSummary(profile, l))}</p>`;
 
-function layerHtml(profile, l, range, shown, alone) {
-  return `<h2>Layer ${l + 1} of ${profile.layers.length}</h2><p class="summary">${esc(layerSummary(profile, l))}</p>` +
-    (alone ? '' : printedLegend(profile, shown)) +
-    `<div class="panels">${profile.kinds.map((_, n) => panel(profile, l, n, range, shown, alone)).join('')}</div>`;
-}
+const layerHtml = (profile, l, range, shown) => layerHeading(profile, l) +
+  `<div class="panels">${profile.kinds.map((_, n) => panel(profile, l, n, range, shown)).join('')}</div>`;

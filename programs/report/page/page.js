@@ -66,9 +66,9 @@ function drawCurves() {
   models = models.filter((m) => !m.title.includes(' points of layer '));
   document.body.classList.toggle('several', state.several !== null);
   if (state.several)
-    curves.innerHTML = legendHtml() + state.several.map((l) => `<div class="one">${layerHtml(profile, l, state.range, shown, false)}</div>`).join('');
+    curves.innerHTML = legendHtml() + plainLayers(profile, state.several, state.range, shown);
   else
-    curves.innerHTML = legendHtml() + layerHtml(profile, state.l, state.range, shown, true) +
+    curves.innerHTML = legendHtml() + layerHtml(profile, state.l, state.range, shown) +
       '<p class="note" id="keys">The left and right arrow keys choose the layer; in a plot the arrow keys go along its curves.</p>' + pointsHtml();
   byId('all').textContent = state.several ? 'Show one layer' : 'Show all layers';
 }

@@ -40,8 +40,7 @@ function frame([W, H, L, R, T, B], x, y, top, labels) {
     `<text class="tx" transform="translate(11 ${px(0.5 * (T + bottom))}) rotate(-90)">${esc(y.title)}</text>`;
 }
 
-// The dashes of a line as pieces of their own. A browser that prints makes outlines of each dash of a pattern, which
-// takes minutes for hundreds of layers. Points are places of the drawing.
+// The dashes of a line as pieces of their own. Points are places of the drawing.
 function dashed(points, pattern) {
   let out = '', n = 0, left = pattern[0];
   for (let i = 1; i < points.length; ++i) {
@@ -61,9 +60,9 @@ function dashed(points, pattern) {
 
 const polyline = (points) => points.map(([x, y], i) => `${i ? 'L' : 'M'}${px(x)} ${px(y)}`).join('');
 
-function styled(style, path, dots, plain) {
+function styled(style, path, dots) {
   const [colour, dash, marker, fill] = data.styles[style];
-  return `<g stroke="${colour}"><path class="line"${plain || dash === 'none' ? '' : ` stroke-dasharray="${dash}"`} d="${path}"/>` +
+  return `<g stroke="${colour}"><path class="line"${dash === 'none' ? '' : ` stroke-dasharray="${dash}"`} d="${path}"/>` +
     `<path class="dot" fill="${fill}" d="${dots.map(([x, y]) => `M${px(x)} ${px(y)}${marker}`).join('')}"/></g>`;
 }
 
