@@ -7,6 +7,7 @@
 int main(int count, char** arguments) {
   using namespace tervak::check;
   try {
+    tervak::os::hold_standard_streams();
     tervak::os::catch_interrupts();
     const int status = run(parse_options({arguments + 1, arguments + count}), std::cout);
     if (tervak::os::interrupted() != 0) tervak::os::end_interrupted();

@@ -4,6 +4,7 @@
 #include <numeric>
 #include <stdexcept>
 
+#include "Platform/process.hpp"
 #include "report/compare.hpp"
 #include "report/compare_page.hpp"
 #include "report/files.hpp"
@@ -111,6 +112,7 @@ int run(const options& o) {
 int main(int count, char** arguments) {
   const std::vector<std::string> given(arguments + 1, arguments + count);
   try {
+    tervak::os::hold_standard_streams();
     const int status = run(parse_options(given));
     if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
     return status;
