@@ -105,8 +105,8 @@ std::string bar(const std::vector<std::string>& cells) {
 
 constexpr const char* INTRODUCTION = R"(# Validation
 
-Our numbers beside published and independently worked ones, in kN, m, kPa and degrees. The routines themselves make this page, and a test
-makes it anew.
+Our numbers compared with published and independently worked ones, in kN, m, kPa and degrees. The routines themselves calculate our numbers;
+a test recalculates them and compares the page.
 
 - A published number has its source in its row.
 - Any other expected number is worked on this page: below each table are the steps, by the equation of the source, with the numbers put

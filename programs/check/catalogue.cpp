@@ -76,6 +76,7 @@ std::span<const message_section> message_sections() {
       {"On the listing", &rows::ON_THE_LISTING},
       {"On the USFOS exports", &rows::ON_THE_USFOS_EXPORTS},
       {"Interface file", &rows::INTERFACE_FILE},
+      {"Appendix: lines that do not arise", &rows::CANNOT_ARISE},
   };
   return sections;
 }

@@ -72,7 +72,7 @@ const std::vector<known_message> CURVES_GIVEN_BY_HAND_FACTORS_SOIL_DISPLACEMENTS
      "{2=4}MODIFYQZ#1.QZFEND {2=5}MODIFYQZ#1.QZDEND"},
     {"**** SR/READGE WARNING : PILE TIP TENSION ALLOWED", "goes on",
      "a row of `MODIFYQZ` has `QZFNEG` above zero: pile tips take tension. Make sure that this is "
-     "meant",
+     "intended",
      "MODIFYQZ.QZFNEG>0"},
     {"**** SR/READG3 : GIVEN SOIL DISPL SEQUENCE ERROR\nN,ZLAST,ZNOW= %i %x %x", "ends, 1",
      "`DISPLACEMENTS`: `DSPLEV` of row N does not lie below the row before it", "DISPLACEMENTS#1.DSPLEV"},

@@ -5,7 +5,6 @@ namespace tervak::check::rows {
 // General values (READGE)
 
 const std::vector<known_message> GENERAL_VALUES = {
-    {"**** SR/READGE : PROFILECOUNT,NUMBEROFPROFILES= %i %i", "ends, 1", "does not arise"},
     {"**** SR/READGE : NUMTYP ERROR  NUMTYP,MAX= %i %i", "ends, 1",
      "`SOILTYPES` has no row, or more than 500", "NUMTYP SOILTYPES"},
     {"**** SR/READGE : NUMTQZ ERROR  NUMTQZ,MAX= %i %i", "ends, 1",
@@ -21,12 +20,12 @@ const std::vector<known_message> GENERAL_VALUES = {
     {"**** SR/READGE : ATMPRS ERROR  ATMPRS = %x", "ends, 1", "`ATMPRS` is not above zero", "ATMPRS"},
     {"**** WARNING FROM SR/READGE : SUSTIF = %x", "goes on",
      "`SUSTIF` is zero or negative (all clay counts as stiff), or above 10 atmospheres (no clay "
-     "does). If it is as meant, look at `ATMPRS`: kPa, 101.3",
+     "does). If it is as intended, check `ATMPRS`: kPa, 101.3",
      "SUSTIF"},
     {"**** WARNING FROM SR/READGE : JPRINT = %i", "goes on",
-     "`JPRINT` is above 2 and counts as 2. A negative one counts as 0 without a word", "JPRINT"},
+     "`JPRINT` is above 2 and counts as 2. A negative one counts as 0 without a message", "JPRINT"},
     {"**** WARNING FROM SR/READGE : JECHO = %i", "goes on",
-     "`JECHO` is above 1 and counts as 1. A negative one counts as 0 without a word", "JECHO"},
+     "`JECHO` is above 1 and counts as 1. A negative one counts as 0 without a message", "JECHO"},
     {"**** SR/READGE : SFTPHI ERROR  SFTPHI = %x"
      "|**** SR/READGE : SFSU ERROR  SFSU = %x"
      "|**** SR/READGE : SFSKF ERROR  SFSKF = %x"
@@ -34,13 +33,11 @@ const std::vector<known_message> GENERAL_VALUES = {
      "ends, 1", "this safety factor is not above zero", "SFTPHI|SFSU|SFSKF|SFSIGT"},
     {"**** SR/READGE : NUMDIA,MAXDIA= %i %i", "ends, 1",
      "more than 50 values after `DIAM`. No lines of SR/LINERD follow", "DIAM"},
-    {"**** SR/READGE : NUMDIA ERROR  NUMDIA,MAX= %i %i", "ends, 1",
-     "does not arise: the deck's reader asks for `DIAM`, and the line above takes more than 50", "DIAM"},
     {"**** SR/READGE : DIAM SEQUENCE ERROR %x %x", "ends, 1",
      "two neighbouring values of `DIAM` do not ascend. A first value of zero or below passes here, "
      "and fails in the P-Y stage",
      "DIAM^"},
-    {"**** SR/READGE : ESOL0,ESOL1 ERROR %x %x", "ends, 1", "`ESOL1` is negative; `ESOL0` is not judged",
+    {"**** SR/READGE : ESOL0,ESOL1 ERROR %x %x", "ends, 1", "`ESOL1` is negative; `ESOL0` is not checked",
      "ESOL1 ESOL0"},
     {"**** SR/READGE : POSAVR ERROR %x", "ends, 1", "`POSAVR` is not between 0 and 0.5", "POSAVR"},
     {"**** SR/READGE : SCRGEN,SCRLOC ERROR %x %x", "ends, 1",
@@ -56,13 +53,9 @@ const std::vector<known_message> GENERAL_VALUES = {
 // Report of the input stages (LINERD)
 
 const std::vector<known_message> LINE_REPORT = {
-    {"The %i last lines read from the temporary input file are shown below.", "", "N is 0"},
-    {"Non-accepted value(s) exist in the input :", "", "the usual second line"},
-    {"Error occurred while reading the bottom line :"
-     "|An end-of-file was encountered at the bottom line :"
-     "|The error was detected by SR/LINERD :",
-     "", "do not arise"},
-    {"%i : %t", "", "does not arise: a line of the deck"},
+    {"The %i last lines read from the temporary input file are shown below.\nNon-accepted value(s) exist in the "
+     "input :",
+     "", "N is 0, and no line is shown"},
 };
 
 // Surface loads, soil types, depth table, layers (READG2)
@@ -95,10 +88,10 @@ const std::vector<known_message> SURFACE_LOADS_SOIL_TYPES_DEPTH_TABLE_LAYERS = {
     {"**** SR/READG2 : RFTZ ERROR %x", "ends, 1", "`RFTZ` is not between 0 and 1", "RFTZ"},
     {"**** SR/READG2 : TZ/QZ SEQUENCE ERROR %i %x %x", "ends, 1",
      "`TZQZTABLE`: row N does not lie deeper than the row before it; both levels", "TZQZTABLE#1.ZTQZ"},
-    {"**** SR/READG2 : TCMP,TTNS ERROR  N,IERR= %i %x|**** SR/READG2 : TCMP,TTNS ERROR  N,IERR= %x",
+    {"**** SR/READG2 : TCMP,TTNS ERROR  N,IERR= %i %x\n**** SR/READG2 : TCMP,TTNS ERROR  N,IERR= %x",
      "ends, 1",
-     "`TCMP` or `TTNS` is negative. After the heading `N,IERR` stand the row and `TCMP`; the same "
-     "line comes again, with `TTNS` alone. There is no IERR",
+     "`TCMP` or `TTNS` is negative. The first line has the row and `TCMP`, the second `TTNS`. There is "
+     "no IERR",
      "TZQZTABLE.TCMP<0 TZQZTABLE.TTNS<0"},
     {"**** WARNING FROM SR/READG2 : TCMP.LT.cmn.ttns %i %x %x", "goes on",
      "row N: `TTNS` is above `TCMP`, skin friction in tension above that in compression", "TZQZTABLE#1.TTNS"},
@@ -122,7 +115,7 @@ const std::vector<known_message> SURFACE_LOADS_SOIL_TYPES_DEPTH_TABLE_LAYERS = {
     {"**** SR/READG2 : SOIL TYPE ERROR  NOW,TYPE,NUMTYP= %i %i %i", "ends, 1",
      "`LAYERS`: `TYPE` of row NOW is no row of `SOILTYPES`", "LAYERS#1.TYPE"},
     {"**** SR/READG2 : PY/TZ/QZ CODE ERROR  NOW,CODES= %i %i %i %i", "ends, 1",
-     "`LAYERS`: one of the three codes of row NOW is not for revision 4. The line does not tell "
+     "`LAYERS`: one of the three codes of row NOW is not for revision 4. The line does not state "
      "which; see Codes in [deck.md](deck.md)",
      "LAYERS#1.PYCODE LAYERS#1.TZCODE LAYERS#1.QZCODE"},
 };

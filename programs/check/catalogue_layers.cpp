@@ -16,8 +16,8 @@ const std::vector<known_message> LAYER_BUILD = {
      "ends, 1",
      "the line through SU0 at Z = 0 and SU100 at Z = 100 m is negative at this layer. Revision 4: "
      "correct the two columns; remember that Z counts from the datum, not from the top of the layer. "
-     "Revision 5: SU0 and SU100 are made from `SUTOP` and `SUBOT`; with `UNITM` other than 1.0 their "
-     "line comes out too flat, and a steep strength low in the ground turns negative here though the "
+     "Revision 5: SU0 and SU100 are calculated from `SUTOP` and `SUBOT`; with `UNITM` other than 1.0 their "
+     "line is too flat, and a strength that increases steeply deep in the ground becomes negative here although the "
      "deck is right: run in metres. The line of a main layer starts at the bottom of the calculation "
      "layer of the number before, so that many layers above it flatten it too",
      "SOILTYPES#2.SU0 SOILTYPES#2.SU100|MAINLAYERS#2.SUTOP MAINLAYERS#2.SUBOT"},
@@ -28,7 +28,7 @@ const std::vector<known_message> LAYER_BUILD = {
      "for a negative `SUTOP` or `SUBOT`",
      "SOILTYPES@1.PHI SOILTYPES@1.SU0|MAINLAYERS@1.PHIM MAINLAYERS@1.SUTOP MAINLAYERS@1.SUBOT"},
     {"**** SR/BUILD5 : Maximum allowed number of layers is reached. Max = %i", "ends, 255",
-     "more than 500 calculation layers: lessen `NSUBM`, or the nodes", "SUBDIVISION.NSUBM NUMPIL"},
+     "more than 500 calculation layers: reduce `NSUBM`, or the number of nodes", "SUBDIVISION.NSUBM NUMPIL"},
     {"**** Error termination by SR/BUILD5", "ends, 255",
      "follows the message above, and each message of the pile nodes"},
 };
@@ -38,8 +38,6 @@ const std::vector<known_message> LAYER_BUILD = {
 const std::vector<known_message> PILE_NODES = {
     {"**** SR/BUILD5 : File \"PILEPLOT.TXT\" open problem, IERR=%i", "ends, 255",
      "`NUMPIL` names a pile, and there is no `PILEPLOT.TXT` in this directory", "NUMPIL"},
-    {"The above error code means that the file was not found", "ends, 255",
-     "does not arise: a missing file gives IERR 1 and the line above only"},
     {"**** SR/BUILD5 : Layer sub-division using pile NUMPIL=%i\nFile with pile node coords only has %i "
      "piles\nThis file has heading line :\n%t",
      "ends, 255", "`NUMPIL` is greater than the number of piles in line 2 of the file", "NUMPIL"},
@@ -71,7 +69,7 @@ const std::vector<known_message> SOIL_STRENGTH = {
      "values in `CPTTOP`, `CPTBOT`, `PHIM`, `DRM`",
      "MAINLAYERS@1.CPTTOP MAINLAYERS@1.PHIM MAINLAYERS@1.DRM"},
     {"**** SR/R5SOIL : Error from SR/INTPOL  LAY,IERR= %i %i", "ends, 255",
-     "levels of the main layers, or of the calculation layers, do not ascend. Does not arise unless "
+     "levels of the main layers, or of the calculation layers, do not ascend. Arises only when "
      "`UNITM` is so small that layers have no thickness left",
      "MAINLAYERS.ZMAIN UNITM"},
     {"**** Error termination by SR/R5SOIL", "ends, 255", "follows the message above"},

@@ -7,7 +7,7 @@ namespace tervak::check::rows {
 const std::vector<known_message> MAIN_LAYERS = {
     {"**** SR/REV5INP : Layer sequence error %i %i", "ends, 1",
      "column 1 of `MAINLAYERS`, `SKINFRICTION` or `SUBDIVISION`: the number expected, and the one "
-     "found. The line does not tell which table",
+     "found. The line does not state which table",
      "MAINLAYERS.number~ SKINFRICTION.number~ SUBDIVISION.number~"},
     {"**** SR/REV5INP : Layer bottom z-value error\nLayer, Zlast, Znow= %i %x %x", "ends, 1",
      "`ZMAIN` is less than 0.01 m below that of the main layer above", "MAINLAYERS#1.ZMAIN"},
@@ -33,7 +33,7 @@ const std::vector<known_message> MAIN_LAYERS = {
      "calcs\nDIAMP,WALL,ZTIP,MATPIL = %x %x %x %i",
      "ends, 1",
      "`MATPIL` is neither 1 nor 2, or `ZTIP` lies above the sea floor, or twice `WALL` is above "
-     "`DIAMP`. Asked of every profile, also where no capacity is calculated",
+     "`DIAMP`. Required in every profile, also where no capacity is calculated",
      "DIAMP WALL ZTIP MATPIL"},
     {"**** SR/REV5INP : The pile tip is located below the last soil layer\nZ.pile, Z.bottom = %x %x",
      "ends, 1", "`ZTIP` lies below `ZMAIN` of the last main layer", "ZTIP MAINLAYERS$.ZMAIN"},

@@ -34,7 +34,7 @@ const std::vector<known_message> MONOPILE_CURVES = {
      "|****  MANUAL BM-THETA ERROR: Duplicate THETA value found at index %i Layer: %i."
      "|****  MANUAL BS-Y ERROR: Duplicate Y value found at index %i Layer: %i.",
      "goes on",
-     "a rotation or displacement does not ascend. This refuses nothing, and is printed only beside a "
+     "a rotation or displacement does not ascend. This refuses nothing, and is printed only together with a "
      "finding that does. The points are used in ascending order, of equal ones the last. Points count "
      "from 0",
      "MANUALMTHETA@2|MANUALBMTHETA@2|MANUALBSY@2"},

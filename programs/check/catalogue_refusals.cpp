@@ -20,14 +20,14 @@ std::span<const known_refusal> known_refusals() {
       {"this row belongs to no table, T on line N takes no rows", "belongs to no table",
        "a keyword is in the middle of a table and closes it"},
       {"stands behind a row whose L1 is 0, which closes the list", "which closes the list",
-       "take the row with `L1` 0 out, or the rows after it"},
+       "remove the row with `L1` 0, or the rows after it"},
       {"has no curve for layer N and diameter X; has no MANUALPY for layer N and diameter X (MANUALTZ, MANUALQZ)",
        "has no curve for layer| for layer ",
        "a layer with the code 0 of the family needs a curve for each diameter. `AT M1 0` gives one to all layers "
        "of main layer 1"},
       {"this curve would not be used; layer N and this diameter have their curve already, on line N",
        "this curve would not be used|have their curve already",
-       "take the curve out, or correct the layer, the diameter or the code that the message names"},
+       "remove the curve, or correct the layer, the diameter or the code that the message names"},
       {"this row of MODIFYPY would not be used: the row on line N reaches the last layer (MODIFYTZ, MODIFYQZ)",
        "would not be used",
        "put the rows in the order of `DIAM`, and rows for all diameters first; a list ends with the row that "
@@ -47,9 +47,9 @@ std::span<const known_refusal> known_refusals() {
        "AT takes|AT opens|AT, a layer and a diameter|before the first AT|has no curve",
        "each curve opens with `AT layer diameter` below the name of its table"},
       {"is not used, no layer has the P-Y code 0 (T-Z, Q-Z)", "is not used, no layer has",
-       "take the curves out, or give the layers the code 0"},
+       "remove the curves, or give the layers the code 0"},
       {"stands without MANUALMTHETA, which it modifies (MANUALBSY, MANUALBMTHETA)", "which it modifies",
-       "give the curves, or take the factors out"},
+       "give the curves, or remove the factors"},
       {"\"End\" does not close a profile; write END in columns 1 to 3", "does not close a profile",
        "as it says"},
       {"has nothing behind its heading", "has nothing behind its heading",
@@ -69,7 +69,7 @@ std::span<const known_refusal> known_refusals() {
       {"takes one number (one integer, a number, an integer, one or more numbers, numbers separated by blanks), "
        "found ...",
        " takes ",
-       "the value at the mark. Hints after it: a decimal comma, a point in an integer, a character of a word "
+       "the value at the mark. Hints follow it: a decimal comma, a point in an integer, a character of a word "
        "processor, a number beyond the range"},
       {"and N more faults", " more fault", "20 faults are listed; correct them and run again"},
   };

@@ -10,20 +10,15 @@ const std::vector<known_message> START_FILES_END = {
     {"**** SR/CONTRL  FILE TERVAK.INP OPEN PROBLEM  IERR=%i", "ends, 1",
      "there is no `TERVAK.INP` in this directory, or it may not be read. Nothing was rotated but the "
      "log"},
-    {"ABOVE ERROR CODE MEANS FILE TERVAK.INP NOT FOUND", "ends, 1",
-     "does not arise: a missing file gives IERR 1 and the line above only"},
     {"**** SR/CONTRL  FILE TERVAK.LIS OPEN PROBLEM  IERR=%i", "ends, 1",
      "any of `TERVAK.LIS`, `soil_halde.fem` and `soil_70.fem` could not be made, although the line "
-     "names the first: an older one could not be moved to its name with `.bak`. Look at permissions, "
-     "and whether a directory bears that name"},
-    {"**** SR/CONTRL  FILE TERVAK.RIF OPEN PROBLEM  IERR=%i", "ends, 1",
-     "does not arise. A `TERVAK.RIF` that cannot be written is reported nowhere: see the line of its "
-     "generation below"},
+     "names the first: an older one could not be moved to its name with `.bak`. Check the permissions, "
+     "and whether a directory has that name"},
     {"+++++ INPUT FILE READ , LABEL LINE :\n%t", "goes on",
      "a profile has passed all checks of the input; its heading (78 characters)"},
     {"---- Warning from SR/CONTRL : TERVAK.INP differs from tervak.inp, which is the deck of this run",
      "goes on",
-     "the deck stands under both names as two files that differ: mostly one was edited and the other "
+     "the two names of the deck are two files that differ: usually one was edited and the other "
      "forgotten. All values come from `tervak.inp`, the echo in the listing shows `TERVAK.INP`. Make "
      "one a link to the other"},
     {"**** SR/CONTRL  ERROR FROM SR/READGE  IERR=%i", "ends, 1",
@@ -32,14 +27,6 @@ const std::vector<known_message> START_FILES_END = {
     {"**** SR/CONTRL  ERROR FROM BUILD  IERR=%i"
      "|**** SR/CONTRL  ERROR FROM SR/BUILD5  IERR=%i",
      "ends, 1", "the layer build failed, see below"},
-    {"**** SR/CONTRL  INVALID P-Y CODE %i"
-     "|**** SR/CONTRL  INVALID T-Z CODE %i"
-     "|**** SR/CONTRL  INVALID Q-Z CODE %i",
-     "ends, **0**",
-     "does not arise: the input checks refuse such a code. Correct `PYCODM`, `TZCODM`, `QZCODM` "
-     "(`PYCODE`, `TZCODE`, `QZCODE`)",
-     "SUBDIVISION.PYCODM LAYERS.PYCODE|SUBDIVISION.TZCODM LAYERS.TZCODE|SUBDIVISION.QZCODM "
-     "LAYERS.QZCODE"},
     {"**** SR/CONTRL  P-Y DATA PROBLEM  IERR,LAYER,PILE= %i %i %i"
      "|**** SR/CONTRL  T-Z DATA PROBLEM  IERR,LAYER,PILE= %i %i %i"
      "|**** SR/CONTRL  Q-Z DATA PROBLEM  IERR,LAYER,PILE= %i %i %i",
@@ -50,15 +37,14 @@ const std::vector<known_message> START_FILES_END = {
      "DIAM#3|SUBDIVISION@2.QZCODM LAYERS@2.QZCODE DIAM#3"},
     {"**** SR/CONTRL  ERROR FROM SR/MODIFY  IERR=%i", "ends, 1",
      "the modification pass failed; the cause is above"},
-    {"+++++ P-Y / T-Z / Q-Z  DATA CALCULATION FINISHED", "goes on", "all curves of the profile stand"},
-    {"**** SR/CONTRL  ERROR FROM SR/PRINT  IERR=%i", "ends", "does not arise"},
+    {"+++++ P-Y / T-Z / Q-Z  DATA CALCULATION FINISHED", "goes on", "all curves of the profile are finished"},
     {"+++++ RESULT FILE TERVAK.LIS HAS BEEN PRINTED", "goes on",
-     "the pages of the profile stand in the listing. Not printed with `JPRINT` 0"},
+     "the pages of the profile are in the listing. Not printed with `JPRINT` 0"},
     {"+++++ KESTRA INPUT FILE TERVAK.RIF HAS BEEN GENERATED"
      "|+++++ KESTRA INPUT FILE TERVAK.RIF HAS BEEN GENERATED,  BORING LABEL= \"%t\"",
      "goes on",
-     "the profile was handed to the interface file (revision 4, revision 5). The line also stands "
-     "when the file could not be opened or the disk is full: look at the time of `TERVAK.RIF` and "
+     "the profile was handed to the interface file (revision 4, revision 5). The line is also "
+     "printed when the file could not be opened or the disk is full: check the time of `TERVAK.RIF` and "
      "whether it ends with `IEND`"},
     {"Pile node Z-values were used for subdivision of main layers\nValues were taken from file "
      "PILEPLOT.TXT with header line:\n%t",

@@ -24,7 +24,9 @@ int explain_log(const options& o, std::ostream& out) {
 
 std::filesystem::path program() {
   std::filesystem::path found = os::find_program("tervak");
-  if (found.empty()) throw std::runtime_error("found no tervak beside this program or on the path");
+  if (found.empty())
+    throw std::runtime_error(
+        "cannot find the program tervak in the directory of tervak-check or on the path");
   return found;
 }
 

@@ -45,10 +45,10 @@ class explainer {
   std::size_t last_variant_ = 0, last_profile_ = 0;
 };
 
-/// Whether the message belongs to the one before: the same with other numbers, or a line of its codes.
+/// Whether the message belongs to the one before: the same with other numbers.
 bool explainer::continues(const log_message& message) const {
   return message.known && message.known == last_ && message.profile == last_profile_ &&
-         (message.variant == last_variant_ || message.numbers.empty());
+         message.variant == last_variant_;
 }
 
 void explainer::find_places_of(const log_message& message, explanation& into) const {

@@ -12,18 +12,18 @@ const char* const usage_text =
     "       tervak-check --explain TERVAK.MLG DECK\n"
     "       tervak-check --results DIRECTORY\n"
     "\n"
-    "Says what is wrong with a deck of TERVAK, and what is hardly meant, each with its place: faults, for which\n"
-    "the program refuses the deck; warnings, values that are allowed but unlikely; and, by a trial run of the\n"
-    "tervak beside this program in a scratch directory, the first failure of a stage. Writes no file.\n"
+    "Shows what is wrong with a deck of TERVAK, each with its place: faults, for which the program refuses the\n"
+    "deck; warnings, values that are allowed but probably not intended; and, by a trial run in a scratch\n"
+    "directory, the first failure of a stage. Writes no file.\n"
     "\n"
     "  --strict              warnings count as faults\n"
-    "  --accept RULE,...     pass over these rules; a warning ends with the name of its rule\n"
+    "  --accept RULE,...     leave out these rules; a warning ends with the name of its rule\n"
     "  --explain TERVAK.MLG  explain the warnings and errors of a run log, with their places in DECK\n"
     "  --results DIRECTORY   whether the files of a run are whole: runs DIRECTORY/TERVAK.INP again in a scratch\n"
-    "                        directory and compares every byte but stamps and machine names\n"
+    "                        directory and compares every byte except stamps and machine names\n"
     "  -h, --help            this text\n"
     "\n"
-    "The exit status is 0 when there is nothing to say, 1 for warnings, 2 for faults, a deck that cannot be read,\n"
+    "The exit status is 0 without faults and warnings, 1 for warnings, 2 for faults, a deck that cannot be read,\n"
     "or a wrong command line. With --explain it is 0, 1 when a message is not known, 2 when a file cannot be read;\n"
     "with --results 0 when all files are whole, else 2.\n";
 
@@ -76,7 +76,7 @@ options parse_options(const std::vector<std::string>& arguments) {
   }
   if (!out.results.empty()) {
     if (have_deck || !out.log.empty() || out.strict || !out.accepted.empty())
-      throw usage_error("'--results' stands alone with its directory");
+      throw usage_error("'--results' takes a directory and nothing else");
     return out;
   }
   if (!have_deck) throw usage_error("expected the name of a deck");

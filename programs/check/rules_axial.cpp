@@ -23,7 +23,7 @@ void angle_only(const profile_view& profile, const rule_hit& hit) {
     if (!s.clay && s.method >= 2 && (s.calculates_friction() || s.calculates_tip()) && s.angle > 0 &&
         s.density == 0 && !s.has_cone())
       hit({s.table, s.row, "CPTTOP"},
-          "METHOD is " + std::to_string(s.method) + " and the sand is known by PHIM only");
+          "METHOD is " + std::to_string(s.method) + " and the sand is given by PHIM only");
 }
 
 void clay_without_cone(const profile_view& profile, const rule_hit& hit) {
@@ -52,12 +52,12 @@ constexpr rule RULES[] = {
     {"no-axial", "`METHOD` and the values of `SKINFRICTION`", "`METHOD` 0 and all values zero",
      ": the layer carries no axial load; was the method forgotten?", "T-Z and Q-Z curves come out as zero",
      no_axial},
-    {"angle-only", "sand of ICP-05 or NGI-05", "known by `PHIM` only",
-     ": its cone resistance and density are then made from the angle; give CPTTOP and CPTBOT, or DRM",
-     "the methods rest on the cone, and a correlation from the angle is a guess", angle_only},
+    {"angle-only", "sand of ICP-05 or NGI-05", "given by `PHIM` only",
+     ": its cone resistance and density are then derived from the angle; give CPTTOP and CPTBOT, or DRM",
+     "the methods are based on the cone, and a correlation from the angle is a rough estimate", angle_only},
     {"clay-without-cone", "clay of ICP-05, and clay next to a sand whose tip stress is by ICP-05 or NGI-05",
      "no cone resistance", "; the tip by METHOD 2 or 3, here or in the sand next to it, reads it as 0.0",
-     "the mean of the cone around a tip counts it with zero", clay_without_cone},
+     "the mean of the cone resistance around a tip counts it as zero", clay_without_cone},
     {"tip-in-zero", "`ZTIP`", "in a main layer without tip stress",
      ", whose tip stress is zero; is the level right?", "the pile has no tip resistance", tip_without_stress},
 };

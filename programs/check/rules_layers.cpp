@@ -65,7 +65,7 @@ void stiff_line(const profile_view& profile, const rule_hit& hit) {
 constexpr rule RULES[] = {
     {"scour-boundary", "layers of revision 5 and `SCRLOC`", "no layer boundary at the local scour level",
      ", where no layer ends; put a layer boundary there",
-     "a layer counts by its middle, as scoured or not as a whole", scour_boundary},
+     "a layer is scoured or not as a whole, by the level of its middle", scour_boundary},
     {"thick-layer", "layers whose top lies less than five of the smallest `DIAM` below the sea floor",
      "thicker than two of the smallest `DIAM`",
      " near the sea floor, thicker than two of the smallest DIAM; take more layers",
@@ -73,7 +73,7 @@ constexpr rule RULES[] = {
     {"stiff-line", "clay of revision 5 above `SUSTIF`, P-Y codes 214, 284, 287, 404",
      "strengths by the program's line differ from those given by more than 5 %",
      "; take one layer in each main layer above (NSUBM), or check the peaks",
-     "the curve rests on a line that begins at another level than the layer, see [methods/py.md](methods/py.md)",
+     "the curve is based on a line that begins at another level than the layer, see [methods/py.md](methods/py.md)",
      stiff_line},
 };
 

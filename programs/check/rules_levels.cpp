@@ -11,16 +11,16 @@ void look_outside(std::string_view name, double value, double least, double most
 constexpr rule RULES[] = {
     {"water-weight", "`GAMWAT`", "outside 9.5 to 10.5",
      ", not within 9.5 to 10.5 kN/m3; water has 9.81 to 10.1",
-     "stiff clay and the sand modulus measure by it",
+     "the curves of stiff clay and the modulus of sand depend on it",
      [](const profile_view& p, const rule_hit& hit) {
        look_outside("GAMWAT", p.profile().waterUnitWeight, 9.5, 10.5, hit);
      }},
     {"atmosphere", "`ATMPRS`", "outside 90 to 110", ", not within 90 to 110 kPa; the atmosphere has 101.3",
-     "several methods measure stresses by it",
+     "several methods refer stresses to it",
      [](const profile_view& p, const rule_hit& hit) {
        look_outside("ATMPRS", p.data().AtmosphericPressure, 90, 110, hit);
      }},
-    {"pore-gradient", "`GAMPWP`", "not `GAMWAT`", ": the pore pressure is not hydrostatic; is this meant?",
+    {"pore-gradient", "`GAMPWP`", "not `GAMWAT`", ": the pore pressure is not hydrostatic; is this intended?",
      "0.0 makes effective weights total ones",
      [](const profile_view& p, const rule_hit& hit) {
        if (p.data().PorePressureUnitWeight != p.profile().waterUnitWeight)

@@ -42,7 +42,7 @@ constexpr rule RULES[] = {
      ", more than 15 m; is it in mm?", "no pile is wider", diameter},
     {"wall", "`WALL` where a capacity is calculated", "below `DIAMP` / 200 or above `DIAMP` / 2",
      "; a wall has a 200th to a half of the diameter, is it in another unit?",
-     "the tip by its wall is open or closed, plugs or cores", wall},
+     "the wall decides whether the tip is open or closed, and whether it plugs", wall},
     {"capacity-diameter", "`DIAMP` where a capacity is calculated", "none of `DIAM`",
      ", none of DIAM: skin friction and tip stress are those of another pile",
      "curves of a diameter would take the skin friction of another", capacity_diameter},

@@ -124,7 +124,7 @@ constexpr rule RULES[] = {
      ": the strength falls with depth by more than a quarter of SUBOT; are they swapped?",
      "strength seldom falls with depth within one layer", strength_swapped},
     {"submerged-weight", "`GAMM` (`GAMTOT`)", "below 12",
-     ", less than 12 kN/m3; the total unit weight is wanted, is this the submerged one?",
+     ", less than 12 kN/m3; the total unit weight is expected; is this the submerged one?",
      "submerged weights make the effective stress too low or negative", weight_low},
     {"unit-weight", "`GAMM` (`GAMTOT`)", "above 25", ", more than 25 kN/m3; is it in another unit?",
      "no soil is heavier", weight_high},

@@ -21,7 +21,7 @@ std::string odd_field(std::string_view line, std::size_t number) {
     for (const std::string_view word : {"NAN", "INF"})
       if (field.find(word) != std::string_view::npos)
         return "line " + std::to_string(number) + ", column " + std::to_string(at + 1) + ": " +
-               std::string(word) + " is no number";
+               std::string(word) + " is not a number";
   }
   return {};
 }

@@ -131,7 +131,7 @@ results results_of(const fs::path& directory, const fs::path& program) {
 }
 
 std::string text_of(const results& found) {
-  if (!found.trouble.empty()) return "  cannot be told: " + found.trouble + '\n';
+  if (!found.trouble.empty()) return "  cannot be checked: " + found.trouble + '\n';
   std::string text;
   for (const file_state& file : found.files)
     text += "  " + file.name + (file.fault.empty() ? ": whole" : ": not whole: " + file.fault) + '\n';

@@ -95,7 +95,7 @@ std::string stop_text(const told_run& run) {
   if (run.last.ND > 0)
     text += ", diameter " + std::to_string(run.last.ND) + ", " + family_name(run.last.of) + " curve";
   if (run.last.of == part::axial) text += ", axial capacity";
-  text += ". Its log says:\n";
+  text += ". Its log states:\n";
   for (const std::string& line : run.stop) text += line + "\n";
   return text;
 }

@@ -13,12 +13,12 @@ const char* const usage_text =
     "  --layer N     one calculation layer, from 1\n"
     "  --diameter N  one diameter, by its number from 1\n"
     "  --family F    py, tz or qz curves, or the axial capacity\n"
-    "  -o FILE.html  write a page, complete in itself, that prints as a calculation note\n"
+    "  -o FILE.html  write a self-contained page, to be printed as a calculation note\n"
     "  -h, --help    this text\n"
     "\n"
-    "PILEPLOT.TXT is read beside DECK. The run's own files go to a scratch directory, which is removed. The\n"
-    "exit status is 0 when the note is whole, 1 when the run would stop, which the note shows, 2 when the deck\n"
-    "is refused, the page cannot be written or the command line is wrong.\n";
+    "PILEPLOT.TXT is read from the directory of DECK. The run's own files go to a scratch directory, which is\n"
+    "removed. The exit status is 0 when the note is whole, 1 when the run would stop, which the note shows, 2\n"
+    "when the deck is refused, the page cannot be written or the command line is wrong.\n";
 
 namespace {
 

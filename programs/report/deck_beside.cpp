@@ -104,19 +104,20 @@ std::string first_line(std::string_view text) {
 deck_beside read_deck_beside(const std::string& rif_name, const interface_file& file) {
   const fs::path path = fs::path(rif_name).parent_path() / deck_name;
   std::error_code error;
-  if (!fs::exists(path, error)) return {{}, std::string("No deck ") + deck_name + " is beside the file."};
+  if (!fs::exists(path, error))
+    return {{}, std::string("There is no deck ") + deck_name + " in the directory of the file."};
   TervakMultipleSoilProfiles deck;
   try {
     std::istringstream stream(read_file(path.string()));
     deck.Import(stream, "m", "N", deck_name);
   } catch (const std::exception& fault) {
-    return {{}, "The deck beside the file cannot be read: " + first_line(fault.what())};
+    return {{}, "The deck in the directory of the file cannot be read: " + first_line(fault.what())};
   }
   const std::vector<Tervak> profiles = worked(deck.GetSoilProfiles());
   if (const std::string what = difference(profiles, file); !what.empty())
     return {{},
-            std::string("The deck ") + deck_name + " beside the file is that of another run: it has " + what +
-                "."};
+            std::string("The deck ") + deck_name +
+                " in the directory of the file is that of another run: it has " + what + "."};
   deck_beside out;
   for (const Tervak& p : profiles) out.profiles.push_back(take(p));
   return out;

@@ -55,14 +55,14 @@ void make_directory(const std::string& name) {
   std::error_code error;
   fs::create_directories(name, error);
   if (fs::is_directory(name)) return;
-  if (fs::exists(name)) throw std::runtime_error(name + ": something other than a directory stands there");
+  if (fs::exists(name)) throw std::runtime_error(name + ": expected a directory, found something else");
   fail(name, "cannot be made", error.value());
 }
 
 void write_file(const std::string& name, const std::string& text) {
   std::error_code error;
   if (fs::exists(name, error) && !fs::is_regular_file(name, error))
-    throw std::runtime_error(name + ": something other than a regular file stands there, it is left alone");
+    throw std::runtime_error(name + ": expected a regular file, found something else; it is not replaced");
   std::string part;
   std::FILE* const file = open_beside(name, part);
   bool good = std::fwrite(text.data(), 1, text.size(), file) == text.size();

@@ -45,7 +45,7 @@ void write_page(const options& o) {
 void in_file(const options& o, const std::string& what, std::size_t wanted, std::size_t count) {
   if (wanted > count)
     throw std::runtime_error(o.input + ": expected " + what + " from 1 to " + std::to_string(count) +
-                             " behind '--svg', found " + std::to_string(wanted));
+                             " after '--svg', found " + std::to_string(wanted));
 }
 
 void write_pictures(const options& o) {

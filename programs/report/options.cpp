@@ -40,7 +40,7 @@ layer_selection selection_of(const std::string& text) {
   const std::set<std::size_t> numbers = out.all ? std::set<std::size_t>() : numbers_of(layers);
   out.layers.assign(numbers.begin(), numbers.end());
   if (out.profile == 0 || (out.layers.empty() && !out.all))
-    throw usage_error("expected layers behind '--svg', as in 5, 3,5-7 or all, or 2/5 in profile 2, found '" +
+    throw usage_error("expected layers after '--svg', as in 5, 3,5-7 or all, or 2/5 in profile 2, found '" +
                       text + "'");
   return out;
 }
@@ -50,7 +50,7 @@ double percent_of(const std::string& text) {
   const char* const end = text.data() + text.size();
   const auto [rest, error] = std::from_chars(text.data(), end, value);
   if (error != std::errc() || rest != end || !std::isfinite(value) || value < 0.0)
-    throw usage_error("expected a number of percent behind '--tolerance', as in 0.1, found '" + text + "'");
+    throw usage_error("expected a number of percent after '--tolerance', as in 0.1, found '" + text + "'");
   return value;
 }
 
@@ -70,7 +70,7 @@ class parser {
         if (sign == std::string::npos && take_flag(name)) continue;
         if (!takes_value(name)) throw usage_error("unknown option '" + argument + "'");
         if (sign == std::string::npos && i + 1 == arguments.size())
-          throw usage_error("option '" + name + "' expects a value behind it");
+          throw usage_error("option '" + name + "' expects a value after it");
         values_[name] = sign == std::string::npos ? arguments[++i] : argument.substr(sign + 1);
       }
     }
@@ -107,7 +107,7 @@ class parser {
   void take_value(const std::string& name, std::string& into) const {
     if (!given(name)) return;
     into = values_.at(name);
-    if (into.empty()) throw usage_error("the name behind '" + name + "' is empty");
+    if (into.empty()) throw usage_error("the name after '" + name + "' is empty");
   }
 
   void check_pairs() const {
@@ -127,8 +127,7 @@ class parser {
           (wanted == 2 ? "expected two input files, found also '" : "expected one input file, found also '") +
           names_[wanted] + "'");
     if (wanted == 2 && names_.size() < 2)
-      throw usage_error("expected two input files behind '--compare', found " +
-                        std::to_string(names_.size()));
+      throw usage_error("expected two input files after '--compare', found " + std::to_string(names_.size()));
     if (!names_.empty()) out_.input = names_[0];
     if (wanted == 2) out_.after = names_[1];
     if (out_.input.empty() || (wanted == 2 && out_.after.empty()))
@@ -147,7 +146,7 @@ class parser {
                                                     : task::page;
     out_.all_points = given("--all-points");
     if (given("--units") && !parse_units(values_["--units"], out_.u))
-      throw usage_error("expected two unit names behind '--units', as in kN,m, found '" + values_["--units"] +
+      throw usage_error("expected two unit names after '--units', as in kN,m, found '" + values_["--units"] +
                         "'");
     if (given("--svg")) out_.selection = selection_of(values_["--svg"]);
     if (given("--tolerance")) out_.tolerance = percent_of(values_["--tolerance"]);

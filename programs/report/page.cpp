@@ -7,8 +7,8 @@ namespace {
 
 /// The frame that the script fills.
 constexpr std::string_view body = R"html(<header><h1 id="title"></h1><div id="state"></div></header>
-<noscript><p>This page draws by its script, which the browser does not run here. <code>tervak-report --svg</code> makes
-pictures of the layers that need none.</p></noscript>
+<noscript><p>The script of this page draws its curves, and the browser does not run it here. <code>tervak-report --svg</code> makes
+pictures of the layers that need no script.</p></noscript>
 <nav id="bar" aria-label="Choice of layer"></nav>
 <main id="main"><div id="work"><section id="column" aria-label="Soil column"></section>
 <section id="curves" aria-label="Curves of the layer"></section></div>

@@ -41,7 +41,7 @@ class profile_reader {
     const std::string found = in_.next_name();
     const std::string wanted = name + of + " of profile " + std::to_string(out_.number);
     if (found == "IEND")
-      in_.refuse_here("IEND stands where " + wanted +
+      in_.refuse_here("found IEND where " + wanted +
                       " was expected: the run failed within this profile, see its log TERVAK.MLG");
     if (in_.at_end())
       in_.refuse_here("expected " + wanted + "; no IEND: the run that wrote this file did not end properly");
@@ -115,7 +115,7 @@ class profile_reader {
     displacement_count_ =
         static_cast<std::size_t>(whole(r, 8, 0, max_displacements, "the number of soil displacements"));
     whole(r, 9, 1, max_diameters, "the number of diameters");
-    same(r, 9, out_.diameters.size(), "the number of diameters, of which the records RDSOILDI stand above");
+    same(r, 9, out_.diameters.size(), "the number of diameters, as many as there are records RDSOILDI");
     out_.ESOL0 = r.values[9];
     out_.ESOL1 = r.values[10];
     out_.ESOL2 = r.values[11];
@@ -224,7 +224,7 @@ interface_file read_interface_file(const std::string& file_name, std::istream&& 
   interface_file out;
   if (in.next_name() != "IDENT") in.refuse_here("expected record IDENT, with which an interface file begins");
   in.next();
-  if (in.next_name() != "DATE") in.refuse_here("expected record DATE behind IDENT");
+  if (in.next_name() != "DATE") in.refuse_here("expected record DATE after IDENT");
   const record date = in.next();
   std::copy_n(date.text_lines.begin(), out.date_lines.size(), out.date_lines.begin());
   while (in.next_name() == "TSOILPRF")
@@ -237,7 +237,7 @@ interface_file read_interface_file(const std::string& file_name, std::istream&& 
     in.refuse_here(
         "the file holds no profile: the run failed before it finished one, see its log TERVAK.MLG");
   in.next();
-  if (!in.at_end()) in.refuse_here("expected nothing behind IEND");
+  if (!in.at_end()) in.refuse_here("expected nothing after IEND");
   return out;
 }
 

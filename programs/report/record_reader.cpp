@@ -112,7 +112,7 @@ void record_reader::refuse(const record& where, std::size_t field, const std::st
 
 void record_reader::refuse_here(const std::string& text) {
   if (has(at_)) fail(at_, 1, text);
-  throw rif_error(file_name_ + ":" + std::to_string(at_) + ": behind the last line: " + text);
+  throw rif_error(file_name_ + ":" + std::to_string(at_) + ": after the last line: " + text);
 }
 
 std::size_t record_reader::fields_on(std::size_t line) {

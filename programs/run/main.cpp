@@ -38,11 +38,11 @@ void make_directory(const fs::path& directory) {
 
 /// Refuses where another run is at work in the directory.
 void expect_held(const os::file_lock& lock, const fs::path& directory) {
-  if (lock.taken()) throw run::refusal("another run is at work in " + shown(directory));
+  if (lock.taken()) throw run::refusal("another run is under way in " + shown(directory));
   if (!lock.opened()) throw run::refusal("cannot write in " + shown(directory) + ": " + lock.failure());
   if (!lock.held())
     std::cerr << "tervak-run: files cannot be locked in " << shown(directory)
-              << ": see that no other run works there\n";
+              << ": make sure that no other run uses it\n";
 }
 
 void show(const std::string& heading, const run::findings& found) {
@@ -79,7 +79,8 @@ void run_deck(const run::options& o, int& status) {
   if (os::kind_of(o.deck) == os::file_kind::absent) throw run::refusal("no such deck: " + shown(o.deck));
   static_cast<void>(os::read_file(o.deck));  // before a directory is made for it
   const fs::path program = os::find_program("tervak");
-  if (program.empty()) throw run::refusal("cannot find the program tervak beside tervak-run or on the path");
+  if (program.empty())
+    throw run::refusal("cannot find the program tervak in the directory of tervak-run or on the path");
 
   make_directory(o.directory);
   run::check_directory(o.directory, o.deck);
@@ -94,7 +95,7 @@ void run_deck(const run::options& o, int& status) {
   const fs::path directory = fs::canonical(o.directory);
   std::cout << "deck:       " << shown(o.deck) << "\ndirectory:  " << shown(directory) << '\n';
   if (files.nodes_of_directory())
-    std::cout << "pile nodes: PILEPLOT.TXT of this directory; none is beside the deck\n";
+    std::cout << "pile nodes: PILEPLOT.TXT of this directory; the directory of the deck has none\n";
   std::cout << std::flush;
   status = NOT_GOOD;
   const int found = make_run(o, program, directory, run::deck_findings(files.deck(), shown(o.deck)));

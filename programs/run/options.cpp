@@ -10,9 +10,9 @@ const char* const usage_text =
     "usage: tervak-run [--note] DECK [DIRECTORY]\n"
     "\n"
     "Makes DIRECTORY (by default the deck's name without its ending, here), puts DECK there under both names that\n"
-    "tervak reads (and PILEPLOT.TXT when it is beside the deck), checks the deck, runs tervak there, shows the\n"
-    "warnings and errors of the deck and of the run log, and checks by a second run in a temporary directory that\n"
-    "the result files are whole.\n"
+    "tervak reads (and PILEPLOT.TXT from the directory of the deck, if any), checks the deck, runs tervak there,\n"
+    "shows the warnings and errors of the deck and of the run log, and checks by a second run in a temporary\n"
+    "directory that the result files are whole.\n"
     "\n"
     "  --note  run once more and write TERVAK.NOTE.html into DIRECTORY: how each curve was made, step by step.\n"
     "          The one of the run before becomes TERVAK.NOTE.html.bak, with every run.\n"
@@ -35,7 +35,7 @@ options parse_options(std::vector<std::string> words) {
   }
   if (words.empty() || words.size() > 2)
     throw refusal("expected a deck and a directory, found " + std::to_string(words.size()) +
-                  " words; see tervak-run --help");
+                  " arguments; see tervak-run --help");
   out.deck = words[0];
   if (out.deck.filename().empty()) throw refusal("no such deck: " + words[0]);
   out.directory = words.size() == 2 ? fs::path(words[1]) : default_directory(out.deck);

@@ -25,7 +25,7 @@ placed_record::placed_record(const std::filesystem::path& directory) : file_(dir
   if (os::kind_of(file_) == os::file_kind::absent) return;
   text_ = os::read_file(file_);
   if (!text_.starts_with(HEADING))
-    throw refusal(companion::shown(file_) + " is no record of tervak-run; move it away");
+    throw refusal(companion::shown(file_) + " is not a record of tervak-run; move it away");
 }
 
 std::string placed_record::line(const std::string& name, std::string_view bytes) {

@@ -44,7 +44,7 @@ std::string reason(const run_facts& facts) {
     return "status " + status + ", and its log ends with: " + (last.empty() ? "nothing" : shown(last));
   return facts.results.trouble.empty()
              ? "it ended with NORMAL EXIT and status 0, but its results are not whole."
-             : "it ended with NORMAL EXIT and status 0, but whether its results are whole cannot be told.";
+             : "it ended with NORMAL EXIT and status 0, but whether its results are whole cannot be checked.";
 }
 
 }  // namespace

@@ -129,7 +129,8 @@ TEST(DeckBeside, GivesScourPileAndMainLayers) {
 TEST(DeckBeside, RefusesWhatIsNotOfTheFile) {
   const work_directory here;
   const interface_file file = approved("small-clay");
-  EXPECT_EQ(read_deck_beside("TERVAK.RIF", file).why_not, "No deck TERVAK.INP is beside the file.");
+  EXPECT_EQ(read_deck_beside("TERVAK.RIF", file).why_not,
+            "There is no deck TERVAK.INP in the directory of the file.");
   std::string deck = work_directory::get(source / "examples/small-clay.inp");
   const auto why_with = [&](const std::string& from, const std::string& to) {
     std::string changed = deck;
@@ -138,7 +139,8 @@ TEST(DeckBeside, RefusesWhatIsNotOfTheFile) {
     EXPECT_TRUE(found.profiles.empty()) << to;
     return found.why_not;
   };
-  const std::string other = "The deck TERVAK.INP beside the file is that of another run: it has ";
+  const std::string other =
+      "The deck TERVAK.INP in the directory of the file is that of another run: it has ";
   EXPECT_EQ(why_with("boring A-1", "boring A-2"),
             other + "the heading \"Small clay example, boring A-2, lower bound strength\" in profile 1.");
   EXPECT_EQ(why_with("BORING   A-1", "BORING   A-2"), other + "the boring \"A-2\" in profile 1.");
@@ -147,7 +149,9 @@ TEST(DeckBeside, RefusesWhatIsNotOfTheFile) {
   EXPECT_EQ(why_with("END\n", "END\n" + deck), other + "2 profiles, not 1.");
   EXPECT_EQ(
       why_with("GAMWAT   10.05", "GAMWAT   x")
-          .rfind("The deck beside the file cannot be read: TERVAK.INP:8:10: GAMWAT takes one number", 0),
+          .rfind(
+              "The deck in the directory of the file cannot be read: TERVAK.INP:8:10: GAMWAT takes one number",
+              0),
       0U);
 }
 

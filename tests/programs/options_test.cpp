@@ -26,7 +26,7 @@ std::string read(const std::vector<std::string>& arguments) {
 }
 
 TEST(ReportOptions, CommandLines) {
-  const std::string unit_fault = "expected two unit names behind '--units', as in kN,m, found '";
+  const std::string unit_fault = "expected two unit names after '--units', as in kN,m, found '";
   struct row {
     std::vector<std::string> arguments;
     std::string expected;
@@ -44,19 +44,19 @@ TEST(ReportOptions, CommandLines) {
       {{"--csv", "d", "--json=j", "--all-points", "a"}, "tables a > d > j"},
       {{"--compare", "a", "b", "--tolerance", "2"}, "comparison a b"},
       {{"a", "--compare", "-o", "x", "b"}, "comparison a b > x"},
-      {{"--compare", "a"}, "expected two input files behind '--compare', found 1"},
+      {{"--compare", "a"}, "expected two input files after '--compare', found 1"},
       {{"--compare", "a", "b", "c"}, "expected two input files, found also 'c'"},
       {{"--compare", "a", "b", "--csv", "d"}, "options '--compare' and '--csv' exclude each other"},
       {{"--tolerance", "1"}, "option '--tolerance' goes with '--compare' only"},
       {{"--compare", "a", "b", "--tolerance", "-1"},
-       "expected a number of percent behind '--tolerance', as in 0.1, found '-1'"},
+       "expected a number of percent after '--tolerance', as in 0.1, found '-1'"},
       {{"--compare", "a", "b", "--tolerance=1%"},
-       "expected a number of percent behind '--tolerance', as in 0.1, found '1%'"},
+       "expected a number of percent after '--tolerance', as in 0.1, found '1%'"},
       {{"--all-points"}, "option '--all-points' goes with '--csv' only"},
       {{"--csv", "d", "-o", "x"}, "options '-o' and '--csv' exclude each other"},
-      {{"--csv", ""}, "the name behind '--csv' is empty"},
+      {{"--csv", ""}, "the name after '--csv' is empty"},
       {{"--version", "--compare"}, "version TERVAK.RIF"},
-      {{"-o"}, "option '-o' expects a value behind it"},
+      {{"-o"}, "option '-o' expects a value after it"},
       {{"-x"}, "unknown option '-x'"},
       {{"--compare=a"}, "unknown option '--compare=a'"},
       {{"a", "b"}, "expected one input file, found also 'b'"}};
@@ -65,7 +65,7 @@ TEST(ReportOptions, CommandLines) {
        {"", "0", "2/", "/5", "-1", "2/0", "1/2/3", "12345", "5x", "3,", ",3", "7-5", "1-2-3", "all,3", "1 2"})
     EXPECT_EQ(
         read({"--svg", text}),
-        "expected layers behind '--svg', as in 5, 3,5-7 or all, or 2/5 in profile 2, found '" + text + "'");
+        "expected layers after '--svg', as in 5, 3,5-7 or all, or 2/5 in profile 2, found '" + text + "'");
 }
 
 }  // namespace

@@ -104,15 +104,15 @@ TEST(ReadInterfaceFile, RefusesCutAndUnfinishedFiles) {
   };
   EXPECT_EQ(
       refusal(until(40)),
-      "T.RIF:40: behind the last line: record RVSOILPY of line 33 has 66 fields, found 32 when the file ended: it is "
+      "T.RIF:40: after the last line: record RVSOILPY of line 33 has 66 fields, found 32 when the file ended: it is "
       "cut off, or the run that wrote it did not end properly");
   EXPECT_EQ(
       refusal(until(49)),
-      "T.RIF:49: behind the last line: expected RVSOILQZ of layer 1, diameter 1 of profile 1; no IEND: the run that "
+      "T.RIF:49: after the last line: expected RVSOILQZ of layer 1, diameter 1 of profile 1; no IEND: the run that "
       "wrote this file did not end properly");
   EXPECT_EQ(
       refusal(until(49) + lines.back() + "\n"),
-      "T.RIF:50:1: IEND stands where RVSOILQZ of layer 1, diameter 1 of profile 1 was expected: the run failed within "
+      "T.RIF:50:1: found IEND where RVSOILQZ of layer 1, diameter 1 of profile 1 was expected: the run failed within "
       "this profile, see its log TERVAK.MLG\n  " +
           lines.back() + "\n  ^");
   EXPECT_EQ(
@@ -125,7 +125,7 @@ TEST(ReadInterfaceFile, RefusesCutAndUnfinishedFiles) {
       "is cut off\n  " +
           lines[39].substr(0, 30) + "\n  " + std::string(30, ' ') + "^");
   EXPECT_EQ(refusal(""),
-            "T.RIF:0: behind the last line: expected record IDENT, with which an interface file begins");
+            "T.RIF:0: after the last line: expected record IDENT, with which an interface file begins");
   // Whatever the length, a cut file is refused; only the last line end may be missing.
   for (std::size_t size = 0; size + 1 < good.size(); size += 97)
     EXPECT_NE(refusal(good.substr(0, size)), "taken") << size;

@@ -185,9 +185,9 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
             "2 tervak-report: 'link' is the input: the picture would replace");
   EXPECT_EQ(
       run("--svg 4"),
-      "1 tervak-report: TERVAK.RIF: expected a layer of profile 1 from 1 to 3 behind '--svg', found 4\n");
+      "1 tervak-report: TERVAK.RIF: expected a layer of profile 1 from 1 to 3 after '--svg', found 4\n");
   EXPECT_EQ(run("--svg 2/1"),
-            "1 tervak-report: TERVAK.RIF: expected a profile from 1 to 1 behind '--svg', found 2\n");
+            "1 tervak-report: TERVAK.RIF: expected a profile from 1 to 1 after '--svg', found 2\n");
   put("TERVAK.html", "old");
   EXPECT_EQ(run("", "trap '' XFSZ; ulimit -f 8; "),
             "1 tervak-report: TERVAK.html: cannot be written: File too large\n")
@@ -201,13 +201,14 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
             "1 tervak-report: none/x.html.part0: cannot be created: No such file or directory\n");
   fs::create_directory("there");
   EXPECT_EQ(run("-o there"),
-            "1 tervak-report: there: something other than a regular file stands there, it is left alone\n");
+            "1 tervak-report: there: expected a regular file, found something else; it is not replaced\n");
   EXPECT_EQ(run("there"), "1 tervak-report: there: expected a regular file\n");
   EXPECT_EQ(files(), 5U);
 }
 
 TEST_F(ReportProgram, WritesTablesWholeOrNotAtAll) {
-  const std::string from = "Capacity counts from the sea floor. No deck TERVAK.INP is beside the file.\n";
+  const std::string from =
+      "Capacity counts from the sea floor. There is no deck TERVAK.INP in the directory of the file.\n";
   EXPECT_EQ(run("--csv a/b --json x.json"),
             "0 a/b/layers.csv: records 3\na/b/curves.csv: records 198\na/b/capacity.csv: records 6\n"
             "x.json: profiles 1\n" +
@@ -221,7 +222,7 @@ TEST_F(ReportProgram, WritesTablesWholeOrNotAtAll) {
             std::string::npos);
   fs::create_hard_link("TERVAK.RIF", "a/layers.csv");
   EXPECT_EQ(run("--csv a").substr(0, 50), "2 tervak-report: 'a/layers.csv' is the input: the ");
-  EXPECT_EQ(run("--csv x.json"), "1 tervak-report: x.json: something other than a directory stands there\n");
+  EXPECT_EQ(run("--csv x.json"), "1 tervak-report: x.json: expected a directory, found something else\n");
   put("bad.rif", get("TERVAK.RIF").substr(0, 5000));
   EXPECT_EQ(run("--csv none bad.rif").substr(0, 25), "1 tervak-report: bad.rif:");
   EXPECT_FALSE(fs::exists("none"));

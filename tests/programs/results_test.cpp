@@ -89,7 +89,7 @@ TEST_F(Results, AChangedOrRefusedDeck) {
             "  soil_70.fem: not whole: the run ended with status 1\n"
             "  TERVAK.MLG: whole\n");
   EXPECT_FALSE(results_of(".", TERVAK_PROGRAM).whole());
-  EXPECT_NE(text_of(results_of("nowhere", TERVAK_PROGRAM)).find("cannot be told: nowhere/TERVAK.INP"),
+  EXPECT_NE(text_of(results_of("nowhere", TERVAK_PROGRAM)).find("cannot be checked: nowhere/TERVAK.INP"),
             std::string::npos);
 }
 
@@ -102,8 +102,8 @@ TEST(InterfaceFile, NumbersThatAreNoneAndAMissingEnd) {
   };
   const std::string number = "  1.00000000E+00", end = "IEND      0.0\n";
   EXPECT_EQ(fault(number + number, end), "");
-  EXPECT_EQ(fault(number + "             NAN", end), "line 9, column 25: NAN is no number");
-  EXPECT_EQ(fault("            -INF", end), "line 9, column 9: INF is no number");
+  EXPECT_EQ(fault(number + "             NAN", end), "line 9, column 25: NAN is not a number");
+  EXPECT_EQ(fault("            -INF", end), "line 9, column 9: INF is not a number");
   EXPECT_EQ(fault(number, ""), "has no closing record IEND");
 }
 

@@ -64,7 +64,7 @@ check "of a refused deck, its faults" noted 1 "$examples/faults/misspelt-keyword
 expect "without the option" 0 "$GOOD" "note:" "$deck" noted
 check "no note of an earlier run is left beside the results" [ "$(cd noted && ls -d *NOTE*)" = TERVAK.NOTE.html.bak ]
 expect "a missing deck" 2 "no such deck: nowhere.inp" "" nowhere.inp
-expect "too many words" 2 "found 3 words" "" a b c
+expect "too many arguments" 2 "found 3 arguments" "" a b c
 sed -e "s/^DIAM .*/DIAM $(seq -s ' ' 1 0.1 3.0)/; s/12.0      6/12.0     40/; s/50.0      8/50.0     40/" "$deck" >many.inp
 expect "more materials than the exports take" 1 "the USFOS exports are not whole. TERVAK.RIF is whole." "$GOOD" many.inp
 check "named file by file" grep -q 'soil_70.fem: not whole: the deck has more than 5,000 materials' <<<"$answer"
@@ -125,7 +125,7 @@ program "echo >began; exec sleep 60"
 bin/tervak-run other.inp locked >/dev/null 2>&1 & runner=$!
 for ((i = 0; i < 100; i++)); do [ ! -e locked/began ] || break; sleep 0.1; done
 real
-expect "a second run in the directory" 2 "another run is at work in locked" "" other.inp locked
+expect "a second run in the directory" 2 "another run is under way in locked" "" other.inp locked
 kill -KILL $runner && wait $runner 2>/dev/null
 expect "after the first was killed" 0 "$GOOD" "" other.inp locked
 program 'kill -TERM $PPID; exec sleep 60'

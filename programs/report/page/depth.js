@@ -100,10 +100,10 @@ function depthReadout(event, profile, window, shown) {
 // What the capacity is and is not.
 function capacityNotes(profile) {
   const out = ['Axial capacity is the sum of the curves’ peaks: T-Z over the pile’s surface from the sea floor to each layer’s ' +
-    'bottom, in compression with the peak of that layer’s Q-Z over the full tip area. The deck’s safety factors are in it; ' +
-    'whether the soil plug holds is checked only as far as the method of the deck does.'];
+    'bottom, in compression with the peak of that layer’s Q-Z over the full tip area. The deck’s safety factors are included; ' +
+    'whether the soil plug holds is decided by the method of the deck only.'];
   const deck = profile.deck;
-  if (deck) out.push(`Only what lies below the local scour level, ${level(deck.scour)}${unit('length')}, counts.`);
+  if (deck) out.push(`Only the part below the local scour level, ${level(deck.scour)}${unit('length')}, counts.`);
   else out.push(`Local scour is not known: ${data.no_deck}`);
   if (deck && deck.pile && profile.diameters.some((D) => D !== deck.pile[0]))
     out.push(`A diameter that is not DIAMP, ${sig(deck.pile[0])}${unit('length')}, has the stresses of DIAMP.`);

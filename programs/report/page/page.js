@@ -7,7 +7,7 @@ const shown = (d) => (state.d !== null ? d === state.d : !state.hidden.has(d));
 function stateLine() {
   const profile = profileNow(), parts = [], log = data.log;
   const looks = profile.marked.filter((r) => r[2]).reduce((sum, r) => sum + r[4], 0);
-  if (!log) parts.push('no run log beside the file');
+  if (!log) parts.push('no run log in the directory of the file');
   else parts.push(`<b class="${log.good ? 'good' : 'bad'}">${esc(log.ending || 'run log without an ending')}</b>`);
   parts.push(looks ? `<a href="#tables" id="looks" class="bad">${looks} curve${looks > 1 ? 's' : ''} to look at</a>` : 'no curve to look at');
   const value = (line) => (line || '').replace(/^[A-Z]+: */, '').replace(/ {2,}VERSION: */, ' ');

@@ -60,7 +60,7 @@ function givenTable(profile) {
 
 const aboutHtml = () => `<pre>${data.date.map(esc).join('\n')}</pre><p>` + (data.named
   ? `Units as named when this page was made: ${esc(data.units.force)} and ${esc(data.units.length)}.`
-  : 'The file carries no units: numbers stand in the units of the run.') +
+  : 'The file does not state its units: numbers are in the units of the run.') +
   ' Angles of friction are in degrees. A P-Y stress is the lateral resistance per unit length divided by the diameter, a T-Z stress the ' +
   'skin friction, a Q-Z stress the tip resistance; compression is positive. By default a pile tip takes no tension. ' +
   'Numbers on the screen have four significant digits, copies those of the file.</p>';
