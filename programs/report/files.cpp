@@ -5,6 +5,9 @@
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
+#include <system_error>
+
+#include "Platform/streams.hpp"
 
 namespace tervak::report {
 namespace {
@@ -19,7 +22,7 @@ namespace fs = std::filesystem;
 std::FILE* open_beside(const std::string& name, std::string& chosen) {
   for (int i = 0; i < 100; ++i) {
     chosen = name + ".part" + std::to_string(i);
-    if (std::FILE* file = std::fopen(chosen.c_str(), "wbx")) return file;
+    if (std::FILE* file = os::create_stream(chosen)) return file;
     if (errno != EEXIST) break;
   }
   fail(chosen, "cannot be created", errno);
@@ -31,7 +34,7 @@ std::string read_file(const std::string& name) {
   std::error_code error;
   if (fs::exists(name, error) && !fs::is_regular_file(name, error))
     throw std::runtime_error(name + ": expected a regular file");
-  std::FILE* const file = std::fopen(name.c_str(), "rb");
+  std::FILE* const file = os::open_stream(name, "rb");
   if (file == nullptr) fail(name, "cannot be opened", errno);
   std::string text;
   char block[65536];
@@ -61,12 +64,12 @@ void write_file(const std::string& name, const std::string& text) {
     good = false;
     cause = errno;
   }
-  if (good && std::rename(part.c_str(), name.c_str()) != 0) {
-    good = false;
-    cause = errno;
+  if (good) {
+    fs::rename(part, name, error);
+    if (!error) return;
+    cause = error.value();
   }
-  if (good) return;
-  std::remove(part.c_str());
+  fs::remove(part, error);
   fail(name, "cannot be written", cause);
 }
 

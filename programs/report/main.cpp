@@ -3,6 +3,7 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "Platform/console.hpp"
 #include "report/files.hpp"
 #include "report/layer_picture.hpp"
 #include "report/options.hpp"
@@ -55,7 +56,7 @@ void run(const options& o) {
 
 int main(int count, char** arguments) {
   try {
-    run(parse_options({arguments + 1, arguments + count}));
+    run(parse_options(tervak::os::start_console(count, arguments)));
     if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
     return 0;
   } catch (const usage_error& error) {

@@ -15,6 +15,7 @@ platform_names ask() {
   if (known) {
     names.computer = std::string(system.nodename).substr(0, 25);
     names.operating_system = std::string(system.sysname) + " " + system.release;
+    names.interface_file_system = names.operating_system;
   }
   if (const passwd* account = getpwuid(geteuid())) names.user = std::string(account->pw_name).substr(0, 20);
   if (known) names.processor = system.machine;

@@ -1,0 +1,11 @@
+#include "Platform/console.hpp"
+
+namespace tervak::os {
+
+std::vector<std::string> start_console(int count, char** arguments) {
+  return {arguments + (count > 0 ? 1 : 0), arguments + count};
+}
+
+void attach_to_calling_console() {}
+
+}  // namespace tervak::os
