@@ -4,14 +4,13 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(tervak_executable ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 
-install(TARGETS tervak tervak-report RUNTIME)
-install(PROGRAMS programs/tervak-run TYPE BIN)
+install(TARGETS tervak tervak-report tervak-check tervak-run RUNTIME)
 
 # Manual pages, without a time stamp in them.
 find_program(GZIP_EXECUTABLE gzip REQUIRED)
 mark_as_advanced(GZIP_EXECUTABLE)
 set(pages "")
-foreach(name tervak tervak-run tervak-report)
+foreach(name tervak tervak-run tervak-report tervak-check)
   set(page ${PROJECT_BINARY_DIR}/man/${name}.1.gz)
   add_custom_command(OUTPUT ${page} DEPENDS man/${name}.1 VERBATIM
     COMMAND ${GZIP_EXECUTABLE} -9nc ${PROJECT_SOURCE_DIR}/man/${name}.1 > ${page})
@@ -21,7 +20,7 @@ file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/man)
 add_custom_target(man ALL DEPENDS ${pages})
 install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
-# The documents stand to one another as in the repository, so that their links hold.
+# The documents are to one another as in the repository, so that their links hold.
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs
   FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg")
@@ -35,8 +34,9 @@ set(CPACK_PACKAGE_CONTACT "TERVAK developers <tervak@example.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION "TERVAK makes the lateral (P-Y), skin (T-Z) and tip (Q-Z) resistance curves of
 offshore pile foundations from a description of the soil, by API, ISO, ICP,
 NGI and other published methods, and writes them for KESTRA and USFOS.
-tervak-run runs one deck in a directory of its own, tervak-report shows the
-results as a web page.")
+tervak-run runs one deck in a directory of its own, tervak-check says what is
+wrong with a deck or a run and where, tervak-report shows the results as a web
+page.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

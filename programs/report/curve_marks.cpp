@@ -2,11 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
+
+#include "report/curve_points.hpp"
 
 namespace tervak::report {
 namespace {
 
-constexpr double softening_share = 0.001;
+constexpr double fall_share = 0.001;
 constexpr double vertical_share = 0.05;
 constexpr double vertical_length = 1e-6;
 // The file keeps nine digits of each stress: a fall or step of just the limit must not change sides by that.
@@ -20,9 +24,10 @@ double peak_of(const curve& c, const std::vector<std::size_t>& points) {
   return peak;
 }
 
-void find_softening(const curve& c, int side, const std::vector<std::size_t>& points, double peak,
-                    std::vector<mark>& out) {
-  mark worst{mark_kind::softening, side, 0, 0, softening_share + rounding};
+/// The greatest fall below what was reached before, as a mark of softening.
+std::optional<mark> greatest_fall(const curve& c, int side, const std::vector<std::size_t>& points,
+                                  double peak) {
+  mark worst{mark_kind::softening, side, 0, 0, fall_share + rounding};
   std::size_t highest = points.front();
   bool found = false;
   for (const std::size_t i : points) {
@@ -33,7 +38,35 @@ void find_softening(const curve& c, int side, const std::vector<std::size_t>& po
     }
     if (fall < 0.0) highest = i;
   }
-  if (found) out.push_back(worst);
+  return found ? std::optional(worst) : std::nullopt;
+}
+
+/// The greatest rise after a fall: from the top before the fall to the highest point after it.
+std::optional<mark> greatest_second_peak(const curve& c, int side, const std::vector<std::size_t>& points,
+                                         double peak) {
+  mark worst{mark_kind::second_peak, side, 0, 0, fall_share + rounding};
+  std::size_t highest = points.front(), lowest = points.front();
+  bool found = false;
+  for (const std::size_t i : points) {
+    const double stress = side * c[i].stress;
+    const double dip = std::min(stress, side * c[highest].stress) - side * c[lowest].stress;
+    if (dip / peak > worst.share) {
+      worst = {mark_kind::second_peak, side, highest, i, dip / peak};
+      found = true;
+    }
+    if (stress > side * c[highest].stress) highest = lowest = i;
+    if (stress < side * c[lowest].stress) lowest = i;
+  }
+  return found ? std::optional(worst) : std::nullopt;
+}
+
+void find_falls(const curve& c, int side, const std::vector<std::size_t>& points, double peak,
+                std::vector<mark>& out) {
+  const std::optional<mark> second = greatest_second_peak(c, side, points, peak);
+  std::optional<mark> fall = greatest_fall(c, side, points, peak);
+  if (fall && side * c[fall->to].stress <= 0.0) fall->kind = mark_kind::fall;
+  if (fall && (fall->kind == mark_kind::fall || !second)) out.push_back(*fall);
+  if (second) out.push_back(*second);
 }
 
 void find_vertical(const curve& c, int side, const std::vector<std::size_t>& points, double peak,
@@ -75,6 +108,12 @@ std::vector<std::size_t> outward(const curve& c, int side) {
   return points;
 }
 
+double peak_stress(const curve& c, int side) {
+  double peak = c.empty() ? 0.0 : c.front().stress;
+  for (const point& q : c) peak = side > 0 ? std::max(peak, q.stress) : std::min(peak, q.stress);
+  return peak;
+}
+
 std::vector<mark> find_marks(const curve& c, double length) {
   if (std::all_of(c.begin(), c.end(), [](const point& p) { return p.stress == 0.0; })) return {mark{}};
   std::vector<mark> out;
@@ -82,7 +121,7 @@ std::vector<mark> find_marks(const curve& c, double length) {
     const std::vector<std::size_t> points = outward(c, side);
     const double peak = peak_of(c, points);
     if (peak == 0.0) continue;
-    find_softening(c, side, points, peak, out);
+    find_falls(c, side, points, peak, out);
     find_vertical(c, side, points, peak, length, out);
   }
   return out;
@@ -95,7 +134,8 @@ double shape_end(const curve& c, int side) {
   const double near_flat = 0.1 * peak;
   const auto size = [&](std::size_t i) { return std::abs(c[points[i]].displacement); };
   const auto stress = [&](std::size_t i) { return c[points[i]].stress; };
-  std::size_t last = points.size() - 1;
+  const auto [first, end] = points_before_filler(c, false);
+  std::size_t last = points.size() - 1 - (side > 0 ? c.size() - end : first);
   double low = stress(last), high = low;
   for (std::size_t i = last; i > 0; --i) {
     low = std::min(low, stress(i));
@@ -106,7 +146,6 @@ double shape_end(const curve& c, int side) {
       break;
     }
   }
-  while (last > 0 && stress(last) == stress(last - 1)) --last;
   return size(last);
 }
 

@@ -6,7 +6,7 @@ plot curve_plot(const profile& p, const layer& l, curve_kind kind, const curve_v
   plot drawing{.title = std::string(words_of(kind).name) + " curves", .x = view.x, .y = view.y};
   const std::vector<curve>& curves = l.of(kind);
   for (std::size_t d = 0; d < p.diameters.size(); ++d) {
-    plot_line& line = drawing.lines.emplace_back(plot_line{d, {}, 1});
+    plot_line& line = drawing.lines.emplace_back(plot_line{d, {}});
     for (const point& q : curves[d]) line.points.emplace_back(q.displacement, q.stress);
     line.points = clip_to(line.points, view.x.low, view.x.high);
     for (const auto& [at, letters] : letters_of(view.marks[d])) {

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "report/method_label.hpp"
 #include "report/text.hpp"
 
 namespace tervak::report {
@@ -22,14 +23,33 @@ std::string stress_unit(curve_kind kind, const units& u) {
 
 /// The drawn range: the shapes of all diameters and a tenth more, and never a side shorter than a tenth of
 /// the other.
-std::pair<double, double> drawn_range(const profile& p, const std::vector<curve>& curves) {
+std::pair<double, double> shape_range(const profile& p, const std::vector<curve>& curves, bool alike) {
   double low = 0.0, high = 0.0;
   for (const curve& c : curves) {
     high = std::max(high, shape_end(c, 1));
     low = std::min(low, -shape_end(c, -1));
   }
-  if (low == 0.0 && high == 0.0) return {-0.1 * p.diameters.back(), 0.1 * p.diameters.back()};
-  return {std::min(1.1 * low, -0.1 * high), std::max(1.1 * high, -0.1 * low)};
+  if (low == 0.0 && high == 0.0) high = 0.1 * p.diameters.back(), low = -high;
+  return {alike ? 0.0 : std::min(1.1 * low, -0.1 * high), std::max(1.1 * high, -0.1 * low)};
+}
+
+std::pair<double, double> full_range(const std::vector<curve>& curves, bool alike) {
+  double low = 0.0, high = 0.0;
+  for (const curve& c : curves)
+    for (const point& q : c) {
+      low = std::min(low, q.displacement);
+      high = std::max(high, q.displacement);
+    }
+  if (alike) low = 0.0;
+  const double room = 0.03 * (high - low);
+  return {alike ? 0.0 : low - room, high + room};
+}
+
+bool sides_alike(const curve& c) {
+  for (std::size_t i = 0, j = c.size(); i < c.size(); ++i)
+    if (const point& a = c[i], &b = c[--j]; a.stress != -b.stress || a.displacement != -b.displacement)
+      return false;
+  return true;
 }
 
 axis stress_axis(const std::vector<curve>& curves, double left, double right, std::string title) {
@@ -44,34 +64,18 @@ axis stress_axis(const std::vector<curve>& curves, double left, double right, st
   return make_axis(low - room, high + room, std::move(title));
 }
 
-std::string cut_note(const std::vector<curve>& curves, double left, double right) {
-  double far = 0.0;
-  std::size_t beyond = 0;
-  for (const curve& c : curves)
-    for (const point& q : c)
-      if (q.displacement < left || q.displacement > right) {
-        far = std::max(far, std::abs(q.displacement));
-        ++beyond;
-      }
-  if (beyond == 0) return "";
-  return "Cut where the shapes end: " + std::to_string(beyond) + " points beyond, out to ±" +
-         number_text(far) + ", stand in the table only.";
-}
-
-std::string zero_note(const profile& p, const std::vector<curve>& curves) {
-  std::string which;
-  for (std::size_t d = 0; d < curves.size(); ++d)
-    if (std::all_of(curves[d].begin(), curves[d].end(), [](const point& q) { return q.stress == 0.0; }))
-      which += (which.empty() ? "D = " : ", ") + number_text(p.diameters[d]);
-  return which.empty() ? "" : "No resistance: " + which + ". ";
-}
-
-std::string mark_text(const kind_words& words, double diameter, const mark& m) {
-  const std::string at = "D = " + number_text(diameter) + ": " + mark_name(m.kind);
-  if (m.kind == mark_kind::zero) return at;
-  return at + " on the " + (m.side > 0 ? words.positive : words.negative) + " side, point " +
-         std::to_string(m.from + 1) + " to " + std::to_string(m.to + 1) + ", " +
-         (m.kind == mark_kind::softening ? "a fall of " : "a step of ") + percent(m.share) + " of the peak";
+void compare_neighbours(const profile& p, const layer& l, curve_kind kind,
+                        std::vector<std::vector<mark>>& out) {
+  constexpr double limit = 3.0;
+  const auto index = static_cast<std::size_t>(&l - p.layers.data());
+  if (index == 0) return;
+  const layer& above = p.layers[index - 1];
+  if (above.above_scour() || soil_text(above) != soil_text(l) || above.code(kind) != l.code(kind)) return;
+  for (std::size_t d = 0; d < out.size(); ++d) {
+    const double here = peak_stress(l.of(kind)[d], 1), there = peak_stress(above.of(kind)[d], 1);
+    const double low = std::min(here, there), high = std::max(here, there);
+    if (low > 0.0 && high > limit * low) out[d].push_back({mark_kind::neighbour, 1, 0, 0, high / low});
+  }
 }
 
 }  // namespace
@@ -95,32 +99,8 @@ kind_words words_of(curve_kind kind) {
 }
 
 std::string method_text(curve_kind kind, int code) {
-  struct method {
-    curve_kind kind;
-    int code;
-    const char* name;
-  };
-  // The names are those of the listing.
-  static constexpr std::array<method, 13> methods = {{{curve_kind::py, 214, "API-2014"},
-                                                      {curve_kind::py, 284, "API-84"},
-                                                      {curve_kind::py, 287, "API-87"},
-                                                      {curve_kind::py, 380, "VRK-80"},
-                                                      {curve_kind::py, 404, "ISO-04"},
-                                                      {curve_kind::py, 570, "ModMat"},
-                                                      {curve_kind::py, 600, "NGI-11"},
-                                                      {curve_kind::tz, 200, "KRAFT"},
-                                                      {curve_kind::tz, 214, "API-2014"},
-                                                      {curve_kind::tz, 293, "API-93"},
-                                                      {curve_kind::qz, 200, "ELAPLA"},
-                                                      {curve_kind::qz, 214, "API-2014"},
-                                                      {curve_kind::qz, 293, "API-93"}}};
-  static constexpr std::array<const char*, 4> simple = {"LINEAR", "AUTO-1", "AUTO-2", "AUTO-3"};
-  const std::string text = std::to_string(code);
-  if (code == 0) return text + " (MANUAL)";
-  if (code >= 100 && code <= 103) return text + " (" + simple[static_cast<std::size_t>(code - 100)] + ")";
-  for (const method& m : methods)
-    if (m.kind == kind && m.code == code) return text + " (" + m.name + ")";
-  return text;
+  const std::string label = method_label(kind, code);
+  return std::to_string(code) + (label[0] == '?' ? "" : " (" + label + ")");
 }
 
 std::vector<curve_kind> kinds_of(const profile& p) {
@@ -130,31 +110,38 @@ std::vector<curve_kind> kinds_of(const profile& p) {
   return kinds;
 }
 
-const char* mark_name(mark_kind kind) {
+const char* soil_text(const layer& l) { return l.is_sand() ? "sand" : "clay"; }
+
+bool as_the_method_makes_it(mark_kind mark) { return mark == mark_kind::softening; }
+
+mark_words words_of(mark_kind kind) {
   switch (kind) {
     case mark_kind::softening:
-      return "softening";
+      return {"S", "softening",
+              "going outward the stress falls by more than 0.1 % of the peak and stays above zero"};
+    case mark_kind::fall:
+      return {"F", "fall to zero", "going outward the stress falls to zero or beyond"};
+    case mark_kind::second_peak:
+      return {"P", "second peak", "the stress falls and rises again, both by more than 0.1 % of the peak"};
     case mark_kind::vertical:
-      return "near-vertical piece";
+      return {"V", "near-vertical piece", "5 % of the peak or more over at most a millionth of the diameter"};
     case mark_kind::zero:
+      return {"0", "zero curve", "no resistance below the scour level"};
+    case mark_kind::neighbour:
       break;
   }
-  return "zero curve";
-}
-
-const char* mark_letter(mark_kind kind) {
-  return kind == mark_kind::softening ? "S" : kind == mark_kind::vertical ? "V" : "0";
+  return {"N", "jump to the layer above", "same soil and code, peaks that differ by more than three times"};
 }
 
 std::vector<std::pair<std::size_t, std::string>> letters_of(const std::vector<mark>& marks) {
   std::vector<std::pair<std::size_t, std::string>> out;
   for (const mark& m : marks) {
-    if (m.kind == mark_kind::zero) continue;
+    if (m.kind == mark_kind::zero || m.kind == mark_kind::neighbour) continue;
     const auto there = std::find_if(out.begin(), out.end(), [&](const auto& o) { return o.first == m.to; });
     if (there == out.end())
-      out.emplace_back(m.to, mark_letter(m.kind));
+      out.emplace_back(m.to, words_of(m.kind).letter);
     else
-      there->second += mark_letter(m.kind);
+      there->second += words_of(m.kind).letter;
   }
   return out;
 }
@@ -174,21 +161,25 @@ std::vector<std::vector<mark>> marks_of(const profile& p, const layer& l, curve_
     out[d] = find_marks(curves[d], is_rotation(kind) ? 0.0 : p.diameters[d]);
     if (is_monopile(kind)) std::erase_if(out[d], [](const mark& m) { return m.kind == mark_kind::zero; });
   }
+  if (!is_monopile(kind)) compare_neighbours(p, l, kind, out);
   return out;
 }
 
 curve_view view_curves(const profile& p, const layer& l, curve_kind kind, const units& u) {
   const std::vector<curve>& curves = l.of(kind);
   const kind_words words = words_of(kind);
-  const auto [left, right] = drawn_range(p, curves);
-  curve_view out;
   const std::string length = is_rotation(kind) ? "as given" : u.of_length();
-  out.x = make_axis(left, right, std::string(words.displacement) + " [" + length + "]", curve_box.across());
-  out.y = stress_axis(curves, left, right, std::string(words.stress) + " [" + stress_unit(kind, u) + "]");
-  out.note = zero_note(p, curves) + cut_note(curves, left, right);
+  const std::string across = std::string(words.displacement) + " [" + length + "]";
+  const std::string up = std::string(words.stress) + " [" + stress_unit(kind, u) + "]";
+  curve_view out;
+  out.alike = std::all_of(curves.begin(), curves.end(), sides_alike);
+  const auto [left, right] = shape_range(p, curves, out.alike);
+  out.x = make_axis(left, right, across, curve_box.across());
+  out.y = stress_axis(curves, left, right, up);
+  const auto [low, high] = full_range(curves, out.alike);
+  out.full_x = make_axis(low, high, across, curve_box.across());
+  out.full_y = stress_axis(curves, low, high, up);
   out.marks = marks_of(p, l, kind);
-  for (std::size_t d = 0; d < out.marks.size(); ++d)
-    for (const mark& m : out.marks[d]) out.mark_texts.push_back(mark_text(words, p.diameters[d], m));
   return out;
 }
 

@@ -11,6 +11,9 @@
 
 namespace tervak::report {
 
+/// "sand" or "clay", by the friction angle as everywhere in the system.
+const char* soil_text(const layer& l);
+
 /// Short name ("P-Y") and the names of the two quantities of a kind.
 struct kind_words {
   const char* name;
@@ -29,27 +32,37 @@ std::string method_text(curve_kind kind, int code);
 /// The kinds of curve that a profile has, in the order of the page.
 std::vector<curve_kind> kinds_of(const profile& p);
 
-/// What the page shows of the curves of one kind in one layer: axes cut to the shape, marks by diameter, and
-/// texts.
+/// How the curves of one kind in one layer are drawn. Where both sides are alike in all of them only the
+/// positive one is.
 struct curve_view {
-  axis x, y;
-  std::string note;                      // what the plot leaves out, and a curve without resistance
+  axis x, y;            // cut to the shape
+  axis full_x, full_y;  // with the far points
+  bool alike = false;
   std::vector<std::vector<mark>> marks;  // by diameter
-  std::vector<std::string> mark_texts;
 };
 
-/// Marks by diameter of one kind in one layer. Layers at or above the scour level get none; among monopile
-/// curves, which a deck gives for some layers only, zero curves are not marked.
+/// Marks by diameter of one kind in one layer of `p`. Layers at or above the scour level get none; among
+/// monopile curves, which a deck gives for some layers only, neither zero curves nor neighbours are marked.
+/// Neighbours are compared where soil and code are the same and both lie below the scour level.
 std::vector<std::vector<mark>> marks_of(const profile& p, const layer& l, curve_kind kind);
 
 curve_view view_curves(const profile& p, const layer& l, curve_kind kind, const units& u);
 /// The drawing of them, with the letters of the marks at their points.
 plot curve_plot(const profile& p, const layer& l, curve_kind kind, const curve_view& view);
 
-/// Name of a mark as the page prints it, and the letter that stands at its points.
-const char* mark_name(mark_kind kind);
-const char* mark_letter(mark_kind kind);
-/// The points of a curve where letters stand, each once: "SV" at a drop. Zero curves have none.
+/// Whether a mark shows what methods make on purpose: a residual after the peak of T-Z, a cyclic P-Y curve
+/// that falls to a residual, the last of the automatic curves. All others are worth a look.
+bool as_the_method_makes_it(mark_kind mark);
+
+/// How the page writes a mark: the letter at its points, its name, what it means.
+struct mark_words {
+  const char* letter;
+  const char* name;
+  const char* meaning;
+};
+mark_words words_of(mark_kind kind);
+/// The points of a curve where letters stand, each once: "SV" at a drop. Zero curves and neighbours have
+/// none.
 std::vector<std::pair<std::size_t, std::string>> letters_of(const std::vector<mark>& marks);
 /// A share as "12.5 %".
 std::string percent(double share);

@@ -52,6 +52,14 @@ bool same_file(const std::string& input, const std::string& output) {
          fs::weakly_canonical(input, error) == fs::weakly_canonical(output, error);
 }
 
+void make_directory(const std::string& name) {
+  std::error_code error;
+  fs::create_directories(name, error);
+  if (fs::is_directory(name)) return;
+  if (fs::exists(name)) throw std::runtime_error(name + ": something other than a directory stands there");
+  fail(name, "cannot be made", error.value());
+}
+
 void write_file(const std::string& name, const std::string& text) {
   std::error_code error;
   if (fs::exists(name, error) && !fs::is_regular_file(name, error))
@@ -65,6 +73,7 @@ void write_file(const std::string& name, const std::string& text) {
     cause = errno;
   }
   if (good) {
+    // The rename of this library replaces a file on every system.
     fs::rename(part, name, error);
     if (!error) return;
     cause = error.value();

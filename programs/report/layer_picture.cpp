@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -46,14 +47,10 @@ std::string soil_line(const layer& l, const units& u) {
                           : "depth " + with_unit(l.DEPTH, u.length, u) + ", corrected for scour");
 }
 
-int code_of(const layer& l, curve_kind kind) {
-  return kind == curve_kind::py ? l.py_code : kind == curve_kind::tz ? l.tz_code : l.qz_code;
-}
-
 /// What stands below the drawing, collected over its panels.
 struct remarks {
-  bool softening = false;
-  bool vertical = false;
+  std::set<mark_kind> drawn;       // marks whose letters are in the drawing
+  bool one_side = false;           // of a kind whose sides are alike
   double far = 0.0;                // greatest displacement that is not drawn
   std::vector<std::string> texts;  // marks without a letter in the drawing
 };
@@ -75,7 +72,8 @@ void thin_notes(plot& drawing) {
 void remark_on(const profile& p, const layer& l, curve_kind kind, const curve_view& view, remarks& out) {
   const std::string name = std::string(words_of(kind).name) + ": ";
   const auto undrawn = [&](const point& q) {
-    return q.displacement < view.x.low || q.displacement > view.x.high;
+    const double x = view.alike ? std::abs(q.displacement) : q.displacement;
+    return x < view.x.low || x > view.x.high;
   };
   std::string zero;
   for (std::size_t d = 0; d < p.diameters.size(); ++d) {
@@ -83,13 +81,15 @@ void remark_on(const profile& p, const layer& l, curve_kind kind, const curve_vi
     for (const point& q : c)
       if (undrawn(q)) out.far = std::max(out.far, std::abs(q.displacement));
     for (const mark& m : view.marks[d])
-      if (m.kind == mark_kind::zero)
+      if (m.kind == mark_kind::neighbour)
+        continue;  // of two layers, and this is a picture of one
+      else if (m.kind == mark_kind::zero)
         zero += (zero.empty() ? "" : ", ") + number_text(p.diameters[d]);
       else if (undrawn(c[m.to]))
-        out.texts.push_back(name + mark_name(m.kind) +
+        out.texts.push_back(name + words_of(m.kind).name +
                             " beyond the displacements drawn for D = " + number_text(p.diameters[d]) + ".");
       else
-        (m.kind == mark_kind::softening ? out.softening : out.vertical) = true;
+        out.drawn.insert(m.kind);
   }
   if (!zero.empty()) out.texts.push_back(name + "no resistance for D = " + zero + ".");
 }
@@ -104,8 +104,9 @@ std::string panel(const profile& p, const layer& l, curve_kind kind, const units
   drawing.x = make_axis(view.x.low, view.x.high, view.x.title, drawing.box.across());
   thin_notes(drawing);
   remark_on(p, l, kind, view, out);
+  out.one_side = out.one_side || view.alike;
   return text_line("head", drawing.box.left, 0.0,
-                   std::string(words_of(kind).name) + ", code " + method_text(kind, code_of(l, kind))) +
+                   std::string(words_of(kind).name) + ", code " + method_text(kind, l.code(kind))) +
          svg_content(drawing) + "\n";
 }
 
@@ -130,11 +131,12 @@ std::string legend(const profile& p, const units& u, double& y) {
 
 std::vector<std::string> remark_lines(const remarks& r, const units& u) {
   std::vector<std::string> lines;
-  if (r.softening)
-    lines.emplace_back("S: softening, going outward the stress falls by more than 0.1 % of the peak.");
-  if (r.vertical)
-    lines.emplace_back("V: near-vertical, 5 % of the peak or more over at most a millionth of the diameter.");
+  for (const mark_kind kind : r.drawn) {
+    const mark_words words = words_of(kind);
+    lines.push_back(join({words.letter, ": ", words.name, ", ", words.meaning, "."}));
+  }
   lines.insert(lines.end(), r.texts.begin(), r.texts.end());
+  if (r.one_side) lines.emplace_back("Where both sides are alike the positive one is drawn.");
   if (r.far > 0.0)
     lines.push_back("Beyond the displacements drawn the curves go on to ±" + with_unit(r.far, u.length, u) +
                     ".");

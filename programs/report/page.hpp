@@ -3,16 +3,15 @@
 #include <string>
 #include <string_view>
 
+#include "report/page_data.hpp"
 #include "report/rif_data.hpp"
-#include "report/units.hpp"
 
 namespace tervak::report {
 
-/// The whole page: no part of it comes from elsewhere. `file_name`, without its folder, is shown in its
-/// heading.
-std::string page(const interface_file& file, const std::string& file_name, const units& u);
+/// The whole page: no part of it comes from elsewhere.
+std::string page(const interface_file& file, const page_facts& facts);
 
-/// Style sheet and script of the page.
+/// Style sheet and script of the page: the files of page/ one after the other.
 extern const std::string_view page_style;
 extern const std::string_view page_script;
 

@@ -21,6 +21,9 @@ using curve = std::vector<point>;
 enum class curve_kind : std::size_t { py, tz, qz, mtheta, bsy, bmtheta };
 inline constexpr std::array<curve_kind, 6> curve_kinds = {
     curve_kind::py, curve_kind::tz, curve_kind::qz, curve_kind::mtheta, curve_kind::bsy, curve_kind::bmtheta};
+inline constexpr std::array<curve_kind, 3> soil_kinds = {curve_kind::py, curve_kind::tz, curve_kind::qz};
+inline constexpr std::array<curve_kind, 3> monopile_kinds = {curve_kind::mtheta, curve_kind::bsy,
+                                                             curve_kind::bmtheta};
 
 /// Record RVSOILAY and the curves of the layer. Levels grow downward.
 struct layer {
@@ -44,6 +47,12 @@ struct layer {
   const std::vector<curve>& of(curve_kind kind) const { return curves[static_cast<std::size_t>(kind)]; }
   std::vector<curve>& of(curve_kind kind) { return curves[static_cast<std::size_t>(kind)]; }
   bool above_scour() const { return DEPTH <= 0.0; }
+  /// Sand above the scour level whose angle is not given has none here, and counts as clay.
+  bool is_sand() const { return PHIR > 1e-10; }
+  /// Of P-Y, T-Z or Q-Z.
+  int code(curve_kind kind) const {
+    return kind == curve_kind::py ? py_code : kind == curve_kind::tz ? tz_code : qz_code;
+  }
 };
 
 /// Record RDSOIDSP: given soil displacement and open hole at a level.

@@ -26,7 +26,7 @@ double x_of(const plot& p, double x) {
 
 double y_of(const plot& p, double y) {
   const double share = (y - p.y.low) / (p.y.high - p.y.low);
-  return p.box.top + (p.y.reversed ? share : 1.0 - share) * (p.box.height - p.box.top - p.box.bottom);
+  return p.box.top + (1.0 - share) * (p.box.height - p.box.top - p.box.bottom);
 }
 
 std::string text_at(const std::string& css, double x, double y, const std::string& text) {
@@ -42,7 +42,7 @@ std::string frame(const plot& p) {
   for (const std::string& label : p.x.ticks) {
     const double x = x_of(p, tick(label));
     (tick(label) == 0.0 ? zero : path) += join({"M", px(x), " ", px(p.box.top), "V", px(bottom)});
-    texts += text_at("tx", x, p.x_on_top ? p.box.top - 5 : bottom + 14, label);
+    texts += text_at("tx", x, bottom + 14, label);
   }
   for (const std::string& label : p.y.ticks) {
     const double y = y_of(p, tick(label));
@@ -52,25 +52,15 @@ std::string frame(const plot& p) {
   const double middle = 0.5 * (p.box.left + right), half = 0.5 * (p.box.top + bottom);
   return "<path class=\"grid\" d=\"" + path + "\"/><path class=\"zero\" d=\"" + zero +
          "\"/><path class=\"frame\" d=\"M" + px(p.box.left) + " " + px(p.box.top) + "H" + px(right) + "V" +
-         px(bottom) + "H" + px(p.box.left) + "Z\"/>" + texts +
-         text_at("tx", middle, p.x_on_top ? p.box.top - 24 : bottom + 32, p.x.title) +
+         px(bottom) + "H" + px(p.box.left) + "Z\"/>" + texts + text_at("tx", middle, bottom + 32, p.x.title) +
          "<text class=\"tx\" transform=\"translate(12 " + px(half) + ") rotate(-90)\">" +
          escape_html(p.y.title) + "</text>";
 }
 
-std::string bands(const plot& p) {
-  std::string out;
-  const double right = p.box.width - p.box.right;
-  for (const plot_band& b : p.bands) {
-    const double low = y_of(p, b.low), high = y_of(p, b.high);
-    if (b.high > b.low)
-      out += "<rect class=\"band\" x=\"" + px(p.box.left) + "\" y=\"" + px(std::min(low, high)) +
-             "\" width=\"" + px(right - p.box.left) + "\" height=\"" + px(std::abs(high - low)) + "\"/>";
-    else
-      out += "<path class=\"level\" d=\"M" + px(p.box.left) + " " + px(low) + "H" + px(right) + "\"/>";
-    out += text_at("tb", right - 4, std::max(low, high) - 3, b.text);
-  }
-  return out;
+/// One path for all markers: an element each would cost the browser more than all the rest of the page.
+std::string styled_paths(const line_style& s, const std::string& line, const std::string& markers) {
+  return join({"<g stroke=\"", s.colour, "\"><path class=\"line\" stroke-dasharray=\"", s.dash, "\" d=\"",
+               line, "\"/><path class=\"dot\" fill=\"", s.fill, "\" d=\"", markers, "\"/></g>"});
 }
 
 std::string line(const plot& p, const plot_line& l) {
@@ -78,14 +68,10 @@ std::string line(const plot& p, const plot_line& l) {
   std::string path, markers;
   for (const auto& [x, y] : l.points)
     path += join({path.empty() ? "M" : "L", px(x_of(p, x)), " ", px(y_of(p, y))});
-  for (std::size_t i = 0; i < l.points.size(); i += l.marker_step) {
-    const auto& [x, y] = l.points[i];
+  for (const auto& [x, y] : l.points)
     if (x > p.x.low && x < p.x.high)
       markers += join({"M", px(x_of(p, x)), " ", px(y_of(p, y)), style.marker});
-  }
-  // One path for all markers: an element each would cost the browser more than all the rest of the page.
-  return "<path class=\"line\" stroke-dasharray=\"" + style.dash + "\" d=\"" + path +
-         "\"/><path class=\"dot\" fill=\"" + style.fill + "\" d=\"" + markers + "\"/>";
+  return styled_paths(style, path, markers);
 }
 
 /// Round ticks, at most so many and one more.
@@ -129,7 +115,7 @@ axis make_axis(double low, double high, std::string title, double across) {
     low -= half;
     high += half;
   }
-  axis out{low, high, {}, std::move(title), false};
+  axis out{low, high, {}, std::move(title)};
   for (double most = 8.0; most >= 2.0; most -= 1.0) {
     out.ticks = ticks_of(low, high, most);
     if (across == 0.0 || fits(out, across)) break;
@@ -138,18 +124,22 @@ axis make_axis(double low, double high, std::string title, double across) {
 }
 
 line_style style_of(std::size_t index) {
-  static constexpr std::array<const char*, 4> dashes = {"none", "7 3", "2 2", "9 3 2 3"};
-  static constexpr std::array<const char*, 4> markers = {"m-3 0a3 3 0 1 0 6 0a3 3 0 1 0-6 0z",
-                                                         "m-2.6-2.6h5.2v5.2h-5.2z", "m0-3.4l3.2 5.6h-6.4z",
-                                                         "m0-3.6l3.4 3.6l-3.4 3.6l-3.4-3.6z"};
-  return {dashes[index % 4], markers[index % 4], index / 4 % 2 == 0 ? "#fff" : "#000"};
+  static constexpr std::array<const char*, 7> colours = {"#0072b2", "#c84600", "#007a5a", "#9c3f8c",
+                                                         "#000000", "#8a6100", "#3d8bd0"};
+  static constexpr std::array<const char*, 5> dashes = {"none", "7 3", "2 2", "9 3 2 3", "14 4"};
+  // Circle, square, triangle, diamond, triangle on its tip, cross.
+  static constexpr std::array<const char*, 6> markers = {
+      "m-3 0a3 3 0 1 0 6 0a3 3 0 1 0-6 0z", "m-2.6-2.6h5.2v5.2h-5.2z", "m0-3.4l3.2 5.6h-6.4z",
+      "m0-3.6l3.4 3.6l-3.4 3.6l-3.4-3.6z",  "m0 3.4l3.2-5.6h-6.4z",    "m-3-3l6 6m0-6l-6 6"};
+  const char* const colour = colours[index % colours.size()];
+  const std::size_t shape = index % (2 * markers.size() - 1);
+  return {colour, dashes[index % dashes.size()], markers[shape % markers.size()],
+          shape < markers.size() ? "#fff" : colour};
 }
 
 std::string style_paths(std::size_t index) {
   const line_style style = style_of(index);
-  return "<path class=\"line\" stroke-dasharray=\"" + style.dash +
-         "\" d=\"M1 5H43\"/><path class=\"dot\" fill=\"" + style.fill + "\" d=\"M22 5" + style.marker +
-         "\"/>";
+  return styled_paths(style, "M1 5H43", "M22 5" + style.marker);
 }
 
 std::string style_sample(std::size_t index) {
@@ -174,7 +164,7 @@ std::vector<std::pair<double, double>> clip_to(const std::vector<std::pair<doubl
 }
 
 std::string svg_content(const plot& p) {
-  std::string out = bands(p) + frame(p);
+  std::string out = frame(p);
   for (const plot_line& l : p.lines) out += line(p, l);
   for (const plot_note& n : p.notes) out += text_at("mk", x_of(p, n.x), y_of(p, n.y) - 7, n.text);
   return out;
@@ -188,16 +178,12 @@ std::string svg(const plot& p) {
 const std::string_view plot_style = R"css(
 svg text { font: 11px "Liberation Sans", Arial, Helvetica, sans-serif; }
 svg .tx { text-anchor: middle; }
-svg .ty, svg .tb { text-anchor: end; }
-svg .tb { font-size: 10px; font-style: italic; }
+svg .ty { text-anchor: end; }
 svg .mk { font-weight: bold; font-size: 13px; text-anchor: middle; paint-order: stroke; stroke: #fff; stroke-width: 3px; }
 svg .grid { stroke: #d4d4d4; stroke-width: 0.6; fill: none; }
 svg .zero { stroke: #777; stroke-width: 0.9; fill: none; }
 svg .frame { stroke: #000; fill: none; }
-svg .band { fill: #ececec; }
-svg .level { stroke: #000; stroke-width: 1.6; fill: none; }
-svg .line { stroke: #000; stroke-width: 1.3; fill: none; }
-svg .dot { stroke: #000; }
+svg .line { stroke-width: 1.4; fill: none; }
 )css";
 
 }  // namespace tervak::report

@@ -12,7 +12,6 @@ struct axis {
   double high = 1.0;
   std::vector<std::string> ticks;
   std::string title;
-  bool reversed = false;  // low at the top, as for levels that grow downward
 };
 
 /// An axis from `low` to `high` with up to nine round ticks. Equal ends are moved apart. `across` is the
@@ -27,13 +26,15 @@ struct plot_box {
 
   constexpr double across() const { return width - left - right; }
 };
-/// Of a layer's curves. The page's script draws into the same.
-inline constexpr plot_box curve_box = {470, 380, 80, 10, 10, 42};
-/// Over depth, the values' axis on top.
-inline constexpr plot_box depth_box = {360, 430, 60, 12, 42, 10};
+/// Of a layer's curves, and of values over the level with their axis on top and the soil column at the left.
+/// The page's script draws into the same.
+inline constexpr plot_box curve_box = {400, 320, 66, 12, 10, 42};
+inline constexpr plot_box depth_box = {340, 430, 84, 14, 42, 10};
 
-/// Lines and markers that differ without colour: four dashes, four shapes, then the same shapes filled.
+/// Seven colours that the colour-blind tell apart and that print, five dashes, eleven markers. The numbers
+/// have no common divisor: any 55 neighbours differ in dash or marker also without colour.
 struct line_style {
+  std::string colour;
   std::string dash;
   std::string marker;  // path from its centre
   std::string fill;
@@ -46,13 +47,6 @@ std::string style_paths(std::size_t index);
 struct plot_line {
   std::size_t style = 0;
   std::vector<std::pair<double, double>> points;  // x, y
-  std::size_t marker_step = 1;                    // a marker at every n-th point, and at the first
-};
-
-/// A shaded band across the plot, or a line with a text where low == high.
-struct plot_band {
-  double low, high;
-  std::string text;
 };
 
 struct plot_note {
@@ -63,10 +57,8 @@ struct plot_note {
 struct plot {
   std::string title = {};  // read out in place of the drawing
   plot_box box = curve_box;
-  bool x_on_top = false;
   axis x = {};
   axis y = {};
-  std::vector<plot_band> bands = {};
   std::vector<plot_line> lines = {};
   std::vector<plot_note> notes = {};
 };

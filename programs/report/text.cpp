@@ -25,7 +25,8 @@ std::size_t utf8_sequence(std::string_view text) {
   return bad ? 0 : length;
 }
 
-/// The text as valid UTF-8.
+}  // namespace
+
 std::string as_utf8(std::string_view text) {
   std::string out;
   while (!text.empty()) {
@@ -46,8 +47,6 @@ std::string as_utf8(std::string_view text) {
   }
   return out;
 }
-
-}  // namespace
 
 std::string join(std::initializer_list<std::string_view> parts) {
   std::string out;

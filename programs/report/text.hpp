@@ -13,6 +13,10 @@ std::string join(std::initializer_list<std::string_view> parts);
 /// Cuts blanks at the end.
 std::string_view trim_end(std::string_view text);
 
+/// The text as valid UTF-8: bytes that are none count as Latin-1, and control characters become the
+/// replacement character.
+std::string as_utf8(std::string_view text);
+
 /// Text for the body or an attribute of the page, or of a picture, whose readers refuse a file with any byte
 /// out of place: bytes that are no UTF-8 count as Latin-1, and control characters become the replacement
 /// character.

@@ -16,6 +16,9 @@ struct units {
   std::string of_weight() const { return named() ? force + "/" + length + "³" : "run units"; }
 };
 
+/// "kN/m2": the unit of a stress as files in which any program has to read it have it.
+inline std::string plain_stress(const units& u) { return u.force + "/" + u.length + "2"; }
+
 /// Takes "kN,m" apart. False when it is not two names, of letters and digits and at most eight characters
 /// each.
 bool parse_units(const std::string& text, units& out);

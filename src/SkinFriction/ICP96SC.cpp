@@ -1,6 +1,7 @@
 #include "SkinFriction/ICP96SC.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
@@ -13,8 +14,8 @@ namespace tervak {
 namespace {
 
 /// Tangent of the interface angle by plasticity index.
-const vector1<double> PLI_TABLE = {0, 10, 20, 30, 40, 50};
-const vector1<double> TD_TABLE = {sp(0.6f), sp(0.47f), sp(0.35f), sp(0.26f), sp(0.24f), sp(0.22f)};
+constexpr std::array<double, 6> PLI_TABLE{0, 10, 20, 30, 40, 50};
+constexpr std::array<double, 6> TD_TABLE{sp(0.6f), sp(0.47f), sp(0.35f), sp(0.26f), sp(0.24f), sp(0.22f)};
 
 int check(double SIGZ, double OCR, double SUCMP, double ST, double PLI, double RAT) {
   int IERR = 0;

@@ -36,6 +36,8 @@ class deck_table {
   /// Reads a row and appends its record; a row with a fault appends none. True when the row closes its list,
   /// as a row with L1 = 0 does in the lists of P-Y, T-Z and Q-Z factors.
   virtual bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const = 0;
+  /// The number of a column by its name, from 0; the number of columns when there is none of that name.
+  [[nodiscard]] virtual std::size_t find_column(std::string_view column) const = 0;
   /// Whether its rows are for a first to a last layer, which may be written as main layers.
   [[nodiscard]] virtual bool counts_layers() const = 0;
 
@@ -64,6 +66,11 @@ class deck_table_of final : public deck_table {
   }
 
   bool read_row(const deck_statement& line, Tervak& profile, deck_faults& faults) const override;
+  [[nodiscard]] std::size_t find_column(std::string_view column) const override {
+    std::size_t i = 0;
+    while (i < columns_.size() && columns_[i].name != column) ++i;
+    return i;
+  }
   [[nodiscard]] bool counts_layers() const override {
     return requires(R record) { record.L1; }
     || requires(R record) { record.LAY1; };

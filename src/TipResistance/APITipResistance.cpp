@@ -1,6 +1,7 @@
 #include "TipResistance/APITipResistance.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
@@ -12,9 +13,9 @@ namespace tervak {
 
 namespace {
 
-const vector1<double> PHI_TABLE = {20, 25, 30, 35, 40};
-const vector1<double> NQ_TABLE = {8, 12, 20, 40, 50};
-const vector1<double> QL_TABLE = {1.9, 2.9, 4.8, 9.6, 12};  // MPa
+constexpr std::array<double, 5> PHI_TABLE{20, 25, 30, 35, 40};
+constexpr std::array<double, 5> NQ_TABLE{8, 12, 20, 40, 50};
+constexpr std::array<double, 5> QL_TABLE{1.9, 2.9, 4.8, 9.6, 12};  // MPa
 
 struct unit_resistance {
   double QMAX = 0, QSIG = 0;

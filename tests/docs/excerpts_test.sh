@@ -4,9 +4,11 @@
 #   <!-- from: DECK FILE -->   an approved output
 #   <!-- deck: FILE -->        a file of this repository, such as a deck
 #   <!-- run: DECK -->         what tervak-run and then tervak-report print of this deck, run in /home/you/piles
+#   <!-- run: commands -->     what the blocks behind <!-- commands --> print, run there after all decks
+#   <!-- check: DECK -->       what tervak-check prints of this deck and, with --explain, of the log of its approved outputs
 #
 # Line ends and blanks at the ends of lines do not count.   excerpts_test.sh [DIRECTORY_OF_THE_PROGRAMS]
-# Without the programs the third kind is not looked at.
+# Without the programs the last two kinds are not looked at.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../.." && pwd)
@@ -23,10 +25,18 @@ run() { # deck; leaves what is printed in $work/run
     sed "s,$work/piles,/home/you/piles," >"$work/run/$1"
 }
 
+checked() { # deck; leaves what tervak-check prints in $work/check
+  local name
+  name=$(basename "$1" .inp)
+  mkdir -p "$work/check/$(dirname "$1")"
+  (cd "$root/$(dirname "$1")" && "$programs/tervak-check" "$name.inp"
+    "$programs/tervak-check" --explain "$root/tests/golden/approved/$name/TERVAK.MLG" "$name.inp") >"$work/check/$1" || true
+}
+
 check() { # directory of approved outputs, documents; prints what is wrong, then the number of excerpts
   local directory=$1
   shift
-  awk -v directory="$directory" -v root="$root" -v run="${programs:+$work/run}" '
+  awk -v directory="$directory" -v root="$root" -v run="${programs:+$work/run}" -v checked="$work/check" '
     function stripped(line) { sub(/[ \r]+$/, "", line); return line "\n" }
     function whole(file,    text, line) {
       text = "\n"
@@ -45,12 +55,12 @@ check() { # directory of approved outputs, documents; prints what is wrong, then
     }
     state == 2 { block = block stripped($0) }
     state == 1 { state = 2 }
-    /^<!-- (from|deck|run): / {
-      if ($2 == "run:" && run == "") next
+    /^<!-- (from|deck|run|check): / {
+      if (($2 == "run:" || $2 == "check:") && run == "") next
       state = 1
       start = FNR
       block = "\n"
-      file = $2 == "from:" ? directory "/" $3 "/" $4 : ($2 == "deck:" ? root : run) "/" $3
+      file = $2 == "from:" ? directory "/" $3 "/" $4 : ($2 == "deck:" ? root : $2 == "run:" ? run : checked) "/" $3
     }
     END {
       if (state) fault("the excerpt is not closed")
@@ -66,8 +76,11 @@ excerpt() { printf '<!-- from: deck FILE -->\n```\n%b\n```\n' "$1" >"$work/excer
   { echo "the check itself is at fault"; exit 1; }
 
 if [ -n "$programs" ]; then
-  for deck in $(sed -n 's/^<!-- run: \([^ ]*\) .*/\1/p' "$root"/docs/*.md | sort -u); do run "$deck"; done
+  for deck in $(sed -n 's/^<!-- run: \([^ ]*\.inp\) .*/\1/p' "$root"/docs/*.md | sort -u); do run "$deck"; done
+  awk '/^<!-- commands -->/ { state = 2 } /^```/ { --state; next } state == 1' state=0 "$root"/docs/*.md >"$work/commands"
+  (cd "$work/piles" && PATH=$programs:$PATH bash "$work/commands") >"$work/run/commands" 2>&1 || true
+  for deck in $(sed -n 's/^<!-- check: \([^ ]*\) .*/\1/p' "$root"/docs/*.md | sort -u); do checked "$deck"; done
 fi
-check "$root/tests/golden/approved" "$root"/docs/*.md >"$work/result"
+check "$root/tests/golden/approved" "$root/README.md" "$root"/docs/*.md >"$work/result"
 cat "$work/result"
 [ "$(wc -l <"$work/result")" = 1 ] && [ "$(cat "$work/result")" != "0 excerpts" ]

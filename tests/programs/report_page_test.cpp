@@ -5,14 +5,17 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
+#include <set>
 
 #include "programs/sample_rif.hpp"
 #include "report/layer_picture.hpp"
-#include "report/options.hpp"
 #include "report/page.hpp"
 #include "report/read_interface_file.hpp"
+#include "report/run_log.hpp"
 #include "report/svg_plot.hpp"
 #include "report/text.hpp"
+#include "report/value_lists.hpp"
 #include "support/work_directory.hpp"
 
 namespace tervak::report {
@@ -55,21 +58,51 @@ TEST(ReportPlot, AxesAndCuts) {
   EXPECT_EQ(clip_to(points{{-4, 8}, {4, 8}}, -1, 2), (points{{-1, 8}, {2, 8}}));
 }
 
-TEST(ReportPage, TitlesAndUnits) {
+TEST(ReportPlot, NoTwoOfFiftyLinesLookAlike) {
+  std::set<std::string> with_colour, without;
+  for (std::size_t i = 0; i < 55; ++i) {
+    const line_style s = style_of(i);
+    with_colour.insert(s.colour + s.dash + s.marker + (s.fill == "#fff" ? "" : "filled"));
+    without.insert(s.dash + s.marker + (s.fill == "#fff" ? "" : "filled"));
+  }
+  EXPECT_EQ(with_colour.size(), 55U);
+  EXPECT_EQ(without.size(), 55U) << "in black and white";
+}
+
+TEST(ReportPage, NothingBreaksOut) {
   const interface_file file = read_interface_file("T.RIF", sample::rif({1, 3, 2, false, "</script><b>&"}));
-  const std::string bare = page(file, "a<b.RIF", {});
-  EXPECT_EQ(bare.find("<b>&"), std::string::npos);
-  EXPECT_NE(bare.find("<p class=\"label\">&lt;/script&gt;&lt;b&gt;&amp;</p>"), std::string::npos);
-  EXPECT_NE(bare.find("<title>Soil curves of a&lt;b.RIF</title>"), std::string::npos);
+  const run_log log = parse_run_log(" **** WARNING </script><i>\r\n NORMAL EXIT FROM TERVAK\r\n");
+  const std::string bare = page(file, {"a</script><u>.RIF", {}, log, {}});
+  for (const char* tag : {"<b>&", "<i>", "<u>"}) EXPECT_EQ(bare.find(tag), std::string::npos) << tag;
+  EXPECT_NE(bare.find("<title>&lt;/script&gt;&lt;b&gt;&amp;</title>"), std::string::npos);
   EXPECT_NE(bare.find("stress p [run units]"), std::string::npos);
   EXPECT_EQ(bare.find("kN"), std::string::npos);
-  // Layer 1 lies above the scour level, so that layer 2 is the one shown.
-  EXPECT_NE(bare.find("<td class=\"text\">at or above scour level</td>"), std::string::npos);
-  EXPECT_NE(bare.find("This layer lies at or above the scour level."), std::string::npos);
-  EXPECT_NE(bare.find("<h3>Layer 2 of 3</h3>"), std::string::npos);
-  const std::string named = page(file, "T.RIF", {"kN", "m"});
+  const std::string named = page(file, {"T.RIF", {"kN", "m"}, {}, {}});
   EXPECT_NE(named.find("stress p [kN/m²]"), std::string::npos);
-  EXPECT_EQ(named.find("run units"), std::string::npos);
+}
+
+TEST(ReportPage, RunLogs) {
+  const run_log good = parse_run_log(
+      " +++++ INPUT FILE READ\r\n ---- Warning from SR/REV5INP : Layer = 1\r\n  second line\r\n\r\n not of it\r\n"
+      " **** A\r\n +++++ B\r\n NORMAL EXIT FROM TERVAK   \r\n\r\n");
+  EXPECT_TRUE(good.good);
+  EXPECT_EQ(good.messages,
+            (std::vector<std::string>{"---- Warning from SR/REV5INP : Layer = 1 second line", "**** A"}));
+  const run_log refused =
+      parse_run_log("tervak.inp:9:1: unknown\n   9 | DAIM\n     | ^^^^\n ERROR EXIT FROM TERVAK");
+  EXPECT_FALSE(refused.good);
+  EXPECT_EQ(refused.ending, "ERROR EXIT FROM TERVAK");
+  EXPECT_EQ(refused.messages, (std::vector<std::string>{"tervak.inp:9:1: unknown"}));
+  EXPECT_EQ(parse_run_log("").ending, "");
+}
+
+TEST(ReportPage, ListsOfNumbers) {
+  EXPECT_EQ(list_text(std::vector<double>{0.5, 0.5, 0.5, 2000, 2001, 2002, 7}), "0.5*3 2000+2 7");
+  EXPECT_EQ(list_text(std::vector<std::optional<double>>{{}, 1.0 / 3.0, {}}), "- 0.333333333 -");
+  EXPECT_EQ(stress_text({{-2, -1}, {0, 0}, {2, 1}}) + " " + displacement_text({{0, -1}, {0, 0}, {2, 1}}),
+            "-|2 -|1");
+  EXPECT_EQ(stress_text({{0, -1}, {0, 0}, {2, 1}}), "0|2");
+  EXPECT_EQ(stress_text({{-3, -1}, {0, 0}, {2, 1}}), "-3 0 2");
 }
 
 std::size_t count_of(const std::string& part, const std::string& text) {
@@ -89,12 +122,9 @@ TEST(ReportPicture, DrawsALayer) {
                    "corrected for scour</text>"),
       std::string::npos);
   EXPECT_NE(picture.find(">Q-Z, code 293 (API-93)</text>"), std::string::npos);
-  // P-Y peak 32 at 0.15 D. Drawn are +-1.1 * 0.3 over 242.9 units from 41.1 (the labels are as wide as
-  // "-30"), and
-  // +-1.16 * 32 over 240 units from 8: 41.1 + 0.48 / 0.66 * 242.9 and 41.1 + 0.63 / 0.66 * 242.9; 8 + 5.12
-  // / 74.24 * 240.
-  EXPECT_NE(picture.find("L217.8 24.6L"), std::string::npos) << picture;
-  EXPECT_NE(picture.find("L273.0 24.6L"), std::string::npos) << picture;
+  // P-Y peak 32 from 0.15 D to 0.4 D, both sides alike. Drawn are 0 to 1.1 * 0.8 over 246.6 units from 37.4
+  // (the labels are as wide as "30"), and -0.08 * 32 to 1.08 * 32 over 240 units from 8.
+  EXPECT_NE(picture.find("L121.5 24.6L261.6 24.6L"), std::string::npos) << picture;
   EXPECT_EQ(count_of("class=\"line\"", picture), 8U) << "two diameters, three kinds and the legend";
   EXPECT_EQ(picture.find("softening"), std::string::npos);
   const std::string marked = layer_picture(file.profiles[0], 4, {});
@@ -106,32 +136,6 @@ TEST(ReportPicture, DrawsALayer) {
   EXPECT_NE(
       layer_picture(bent, 1, {}).find(">P-Y: softening beyond the displacements drawn for D = 1.</text>"),
       std::string::npos);
-}
-
-std::string usage_of(const std::vector<std::string>& arguments) {
-  try {
-    const options o = parse_options(arguments);
-    return o.input + " > " + o.output + " " + o.u.of_stress();
-  } catch (const usage_error& error) {
-    return error.what();
-  }
-}
-
-TEST(ReportOptions, CommandLines) {
-  EXPECT_EQ(usage_of({}), "TERVAK.RIF > TERVAK.html run units");
-  EXPECT_EQ(usage_of({"--units", "kN,m", "-o", "x.html", "a.rif"}), "a.rif > x.html kN/m²");
-  EXPECT_EQ(usage_of({"--units=MN,m", "--", "-o"}), "-o > TERVAK.html MN/m²");
-  EXPECT_EQ(usage_of({"--units", "kN"}), "expected two unit names behind '--units', as in kN,m, found 'kN'");
-  EXPECT_EQ(usage_of({"--units=k<,m"}), "expected two unit names behind '--units', as in kN,m, found 'k<,m'");
-  EXPECT_EQ(usage_of({"--svg", "5"}), "TERVAK.RIF > TERVAK.svg run units");
-  EXPECT_EQ(parse_options({"--svg=2/51"}).profile, 2U);
-  EXPECT_EQ(parse_options({"--svg=2/51"}).layer, 51U);
-  for (const std::string text : {"", "0", "2/", "/5", "-1", "2/0", "1/2/3", "12345", "5x"})
-    EXPECT_EQ(usage_of({"--svg", text}),
-              "expected a layer behind '--svg', as in 5, or 2/5 in profile 2, found '" + text + "'");
-  EXPECT_EQ(usage_of({"-o"}), "option '-o' expects a value behind it");
-  EXPECT_EQ(usage_of({"-x"}), "unknown option '-x'");
-  EXPECT_EQ(usage_of({"a", "b"}), "expected one input file, found also 'b'");
 }
 
 /// Runs the program in a directory of its own.
@@ -155,12 +159,17 @@ class ReportProgram : public testing::Test, public work_directory {
 TEST_F(ReportProgram, WritesThePage) {
   EXPECT_EQ(
       run(""),
-      "0 TERVAK.html: profiles 1, layers 3; curves with softening 2, with near-vertical pieces 2, zero 0\n");
+      "0 TERVAK.html: profiles 1, layers 3; curves to look at 2, with marks of their method 2\n"
+      "look here: profile 1, P-Y, near-vertical piece, layers 3, 2 curves, a step of 50 % of the peak at most (layer 3, "
+      "D = 1)\n");
   EXPECT_EQ(get("TERVAK.html").substr(0, 15), "<!DOCTYPE html>");
   EXPECT_EQ(files(), 2U) << "nothing left beside the page";
   EXPECT_EQ(run("--help").substr(0, 22), "0 usage: tervak-report");
   EXPECT_EQ(run("--svg 1/3 -o x.svg"), "0 x.svg: profile 1, layer 3\n");
   EXPECT_EQ(get("x.svg").substr(0, 5), "<?xml");
+  EXPECT_EQ(run("--svg 2-3 -o pictures"),
+            "0 pictures/p1-l2.svg: profile 1, layer 2\npictures/p1-l3.svg: profile 1, layer 3\n");
+  EXPECT_EQ(get("pictures/p1-l3.svg"), get("x.svg"));
 }
 
 TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
@@ -193,6 +202,45 @@ TEST_F(ReportProgram, LeavesInputAndOldPageAlone) {
             "1 tervak-report: there: something other than a regular file stands there, it is left alone\n");
   EXPECT_EQ(run("there"), "1 tervak-report: there: expected a regular file\n");
   EXPECT_EQ(files(), 5U);
+}
+
+TEST_F(ReportProgram, WritesTablesWholeOrNotAtAll) {
+  const std::string from = "Capacity counts from the sea floor. No deck TERVAK.INP is beside the file.\n";
+  EXPECT_EQ(run("--csv a/b --json x.json"),
+            "0 a/b/layers.csv: records 3\na/b/curves.csv: records 198\na/b/capacity.csv: records 6\n"
+            "x.json: profiles 1\n" +
+                from);
+  const std::string old = get("a/b/curves.csv");
+  EXPECT_EQ(run("--csv a/b --all-points", "trap '' XFSZ; ulimit -f 8; "),
+            "1 tervak-report: a/b/curves.csv: cannot be written: File too large\n");
+  EXPECT_EQ(get("a/b/curves.csv"), old);
+  put("a/b/units.csv", "of before");
+  EXPECT_NE(run("--csv a/b").find("a/b/units.csv: not of this file, it was there before\n"),
+            std::string::npos);
+  fs::create_hard_link("TERVAK.RIF", "a/layers.csv");
+  EXPECT_EQ(run("--csv a").substr(0, 50), "2 tervak-report: 'a/layers.csv' is the input: the ");
+  EXPECT_EQ(run("--csv x.json"), "1 tervak-report: x.json: something other than a directory stands there\n");
+  put("bad.rif", get("TERVAK.RIF").substr(0, 5000));
+  EXPECT_EQ(run("--csv none bad.rif").substr(0, 25), "1 tervak-report: bad.rif:");
+  EXPECT_FALSE(fs::exists("none"));
+  EXPECT_EQ(run("--version").substr(0, 18), "0 tervak-report 0.");
+}
+
+TEST_F(ReportProgram, ComparesWithAStatus) {
+  put("four.rif", sample::rif({1, 4, 2}));
+  EXPECT_EQ(run("--compare TERVAK.RIF TERVAK.RIF"),
+            "0 TERVAK.RIF, TERVAK.RIF: alike (tolerance 0.1 %); compared profiles 1, layers 3, curves 18\n");
+  EXPECT_EQ(
+      run("--compare TERVAK.RIF four.rif -o x.html"),
+      "1 TERVAK.RIF, four.rif: differences 1 (tolerance 0.1 %); compared profiles 1, layers 3, curves 18\n"
+      "change    profile   layer  ZBOTM  diameter  what   before  after\n"
+      "one file  BORING-1  4      4                layer  none    there\n");
+  EXPECT_EQ(get("x.html").substr(0, 15), "<!DOCTYPE html>");
+  EXPECT_EQ(run("--compare TERVAK.RIF none"),
+            "2 tervak-report: none: cannot be opened: No such file or directory\n");
+  EXPECT_EQ(run("--compare TERVAK.RIF four.rif -o four.rif").substr(0, 18), "2 tervak-report: '");
+  EXPECT_EQ(run("--compare TERVAK.RIF").substr(0, 18), "2 tervak-report: e");
+  EXPECT_EQ(get("four.rif"), sample::rif({1, 4, 2}));
 }
 
 }  // namespace

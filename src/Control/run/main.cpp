@@ -1,11 +1,18 @@
 #include <cstdio>
 #include <memory>
 
+#include "BlockKeeper/ExhaustedMemory.hpp"
 #include "Control/run/CONTRL.hpp"
 #include "Control/state/common.hpp"
 #include "Platform/console.hpp"
 #include "Platform/desktop.hpp"
 #include "Platform/streams.hpp"
+
+namespace {
+
+[[gnu::init_priority(101)]] const BlockKeeper::ExhaustedMemory<255> exhausted_memory;  // -1
+
+}  // namespace
 
 /// Everything lies in the current directory. An argument is a misunderstanding, and then no file is touched.
 int main(int argc, char**) {

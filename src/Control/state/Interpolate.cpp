@@ -4,13 +4,13 @@
 
 namespace KestraCommonLibrary::Utils {
 
-using tervak::vector1;
+using tervak::table_view;
 
 namespace {
 
 const double TOL = tervak::sp(1.0E-10f);
 
-void ascending(int N, const vector1<double>& X, const vector1<double>& Y, double XI, double& YI, int& IERR) {
+void ascending(int N, table_view X, table_view Y, double XI, double& YI, int& IERR) {
   if (!(X(N) - X(1) > TOL)) {
     IERR = 2;
     return;
@@ -40,7 +40,7 @@ void ascending(int N, const vector1<double>& X, const vector1<double>& Y, double
   }
 }
 
-void descending(int N, const vector1<double>& X, const vector1<double>& Y, double XI, double& YI, int& IERR) {
+void descending(int N, table_view X, table_view Y, double XI, double& YI, int& IERR) {
   if (!(X(1) - X(N) > TOL)) {
     IERR = 3;
     return;
@@ -72,8 +72,7 @@ void descending(int N, const vector1<double>& X, const vector1<double>& Y, doubl
 
 }  // namespace
 
-void Interpolate(int N, int ISIGN, const vector1<double>& X, const vector1<double>& Y, double XI, double& YI,
-                 int& IERR) {
+void Interpolate(int N, int ISIGN, table_view X, table_view Y, double XI, double& YI, int& IERR) {
   IERR = 0;
   YI = 1.0E10;
   if (N < 2) {

@@ -11,7 +11,7 @@ namespace KestraCommonLibrary::Utils {
 /// XI. IERR: 0 good; 1 ISIGN is neither 1 nor -1; 2 an ascending, 3 a descending table whose span, or a
 /// segment met on the walk to XI, is not above the tolerance of 1.0E-10. The order is checked lazily:
 /// disorder behind XI goes unnoticed, and the flat ends check no segment.
-void Interpolate(int N, int ISIGN, const tervak::vector1<double>& X, const tervak::vector1<double>& Y,
-                 double XI, double& YI, int& IERR);
+void Interpolate(int N, int ISIGN, tervak::table_view X, tervak::table_view Y, double XI, double& YI,
+                 int& IERR);
 
 }  // namespace KestraCommonLibrary::Utils

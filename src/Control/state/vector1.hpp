@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
+#include <span>
 #include <stdexcept>
 #include <vector>
 
@@ -26,6 +27,7 @@ class vector1 {
   T& operator()(int i) { return items_.at(static_cast<std::size_t>(i) - 1); }
   const T& operator()(int i) const { return items_.at(static_cast<std::size_t>(i) - 1); }
   [[nodiscard]] int size() const { return static_cast<int>(items_.size()); }
+  [[nodiscard]] std::span<const T> items() const { return items_; }
 
  private:
   std::vector<T> items_;
@@ -37,6 +39,20 @@ inline std::size_t checked(int i, int count) {
   return static_cast<std::size_t>(i - 1);
 }
 }  // namespace detail
+
+/// A column of numbers that somebody else holds, counted from 1: a vector1 or a constant table.
+class table_view {
+ public:
+  template <std::size_t N>
+  constexpr table_view(const std::array<double, N>& table)
+      : items_(table) {}                                               // NOLINT(google-explicit-constructor)
+  table_view(const vector1<double>& table) : items_(table.items()) {}  // NOLINT(google-explicit-constructor)
+  double operator()(int i) const { return items_[detail::checked(i, size())]; }
+  [[nodiscard]] int size() const { return static_cast<int>(items_.size()); }
+
+ private:
+  std::span<const double> items_;
+};
 
 /// A table by (diameter, layer), both from 1.
 template <class T>

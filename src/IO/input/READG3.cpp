@@ -1,9 +1,9 @@
 #include "IO/input/READG3.hpp"
 
 #include "Control/state/report.hpp"
-#include "IO/input/read_factors.hpp"
 #include "IO/input/input_steps.hpp"
 #include "IO/input/manual_curves.hpp"
+#include "IO/input/read_factors.hpp"
 #include "IO/units/TervakUnitConverter.hpp"
 
 namespace tervak {

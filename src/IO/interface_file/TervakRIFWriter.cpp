@@ -75,9 +75,10 @@ TervakRIFWriter::TervakRIFWriter() : stream_(std::make_shared<std::ofstream>("TE
   write_record(*stream_, *::IO::Tormal::make_date_record(name, version, date));
 }
 
-// The only holder of the stream lets go of it here, which closes the file.
+// The only holder of the stream lets go of it here, which closes the file. Nothing is allocated: the run may
+// end because memory is exhausted, and nothing may leave a destructor.
 TervakRIFWriter::~TervakRIFWriter() {
-  write_record(*stream_, "IEND    ", std::array{0.0, 0.0, 0.0, 0.0});
+  *stream_ << "IEND      0.00000000E+00  0.00000000E+00  0.00000000E+00  0.00000000E+00\n";
   stream_->flush();
 }
 

@@ -1,5 +1,7 @@
 #include "SoilCurves/py/API14.hpp"
 
+#include <array>
+
 #include "SoilCurves/py/py_frame.hpp"
 #include "SoilCurves/py/soft_clay_curve.hpp"
 #include "SoilCurves/py/stiff_clay_curve.hpp"
@@ -18,15 +20,15 @@ constexpr py_method METHOD{
     "(/,' **** SR/API14 : ERROR FROM SR/INTPOL  IERR=',i5)",
 };
 
-const vector1<double> ANGLES{0.0, 20.0, 25.0, 30.0, 35.0, 40.0, 45.0};
-const vector1<double> MODULI{0.0, 537.0, 537.0, 1094.0, 2189.0, 4476.0, 5974.0};
+constexpr std::array<double, 7> ANGLES{0.0, 20.0, 25.0, 30.0, 35.0, 40.0, 45.0};
+constexpr std::array<double, 7> MODULI{0.0, 537.0, 537.0, 1094.0, 2189.0, 4476.0, 5974.0};
 
 void sand(common& cmn, const py_layer& layer) {
   const auto PU = ultimate_resistance(cmn, layer, METHOD, 0.0);
   if (!PU) return;
   const double KSOIL = cmn.KSOILM(layer.TYP);
   const auto KV = KSOIL > ZTOL ? std::optional(KSOIL / cmn.GAMWAT)
-                               : modulus_from_table(cmn, layer, METHOD, ANGLES, MODULI);
+                               : table_value(cmn, METHOD, ANGLES, MODULI, cmn.PHIR(layer.NL));
   if (KV) tanh_sand_curve(cmn, layer, *PU, *KV, ZTOL);
 }
 

@@ -1,8 +1,8 @@
 #include "SoilCurves/py/API84.hpp"
 
+#include <array>
 #include <cmath>
 
-#include "Control/state/Interpolate.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/py/py_frame.hpp"
@@ -21,18 +21,11 @@ constexpr py_method METHOD{
     "(/,' **** SR/API84 : ERROR FROM SR/KestraCommonLibrary::Utils::Interpolate(  IERR=',i5)",
 };
 
-const vector1<double> DEPTH_RATIO{0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0};
-const vector1<double> A_STATIC{2.91, 2.1, 1.46, 1.07, 0.9, 0.88, 0.88};
-const vector1<double> A_CYCLIC{0.78, 1.08, 1.04, 0.94, 0.91, 0.88, 0.88};
-const vector1<double> B_STATIC{2.15, 1.54, 1.05, 0.72, 0.52, 0.5, 0.5};
-const vector1<double> B_CYCLIC{0.54, 0.82, 0.83, 0.69, 0.56, 0.55, 0.55};
-
-bool find_factor(common& cmn, const py_layer& layer, const vector1<double>& row, double& factor) {
-  KestraCommonLibrary::Utils::Interpolate(7, 1, DEPTH_RATIO, row, layer.H / layer.D, factor, cmn.IERR);
-  if (cmn.IERR == 0) return true;
-  fail(cmn, 1, METHOD.lookup, cmn.IERR);
-  return false;
-}
+constexpr std::array<double, 7> DEPTH_RATIO{0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0};
+constexpr std::array<double, 7> A_STATIC{2.91, 2.1, 1.46, 1.07, 0.9, 0.88, 0.88};
+constexpr std::array<double, 7> A_CYCLIC{0.78, 1.08, 1.04, 0.94, 0.91, 0.88, 0.88};
+constexpr std::array<double, 7> B_STATIC{2.15, 1.54, 1.05, 0.72, 0.52, 0.5, 0.5};
+constexpr std::array<double, 7> B_CYCLIC{0.54, 0.82, 0.83, 0.69, 0.56, 0.55, 0.55};
 
 double parabola_exponent(common& cmn, const py_layer& layer, const curve_point& M, const curve_point& U) {
   double DP = U.stress - M.stress;
@@ -66,17 +59,18 @@ void store_sand(common& cmn, const py_layer& layer, double K, const curve_point&
 void sand(common& cmn, const py_layer& layer) {
   const auto PU = ultimate_resistance(cmn, layer, METHOD, 0.0);
   if (!PU) return;
-  double AFACT = 0.0;
-  double BFACT = 0.0;
-  if (!find_factor(cmn, layer, layer.ICYCL == 0 ? A_STATIC : A_CYCLIC, AFACT)) return;
-  if (!find_factor(cmn, layer, layer.ICYCL == 0 ? B_STATIC : B_CYCLIC, BFACT)) return;
+  const bool steady = layer.ICYCL == 0;
+  const auto AFACT = table_value(cmn, METHOD, DEPTH_RATIO, steady ? A_STATIC : A_CYCLIC, layer.H / layer.D);
+  if (!AFACT) return;
+  const auto BFACT = table_value(cmn, METHOD, DEPTH_RATIO, steady ? B_STATIC : B_CYCLIC, layer.H / layer.D);
+  if (!BFACT) return;
   const double PHI = cmn.PHIR(layer.NL);
   double K = 543.0;
   if (PHI > 30.0) K = 1628.0;
   if (PHI > 36.0) K = 3393.0;
   K = K * cmn.GAMWAT;
-  const double PUU = AFACT * *PU;
-  const double PM = PUU * BFACT / AFACT;
+  const double PUU = *AFACT * *PU;
+  const double PM = PUU * *BFACT / *AFACT;
   store_sand(cmn, layer, K, {PM, layer.D / 60.0}, {PUU, layer.D * 3.0 / 80.0});
 }
 

@@ -1,6 +1,7 @@
 #include "SoilCurves/py/PYRCK.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
@@ -12,9 +13,9 @@ using KestraCommonLibrary::Utils::Interpolate;
 
 namespace {
 
-const vector1<double> DEPTH_RATIO{0.0, 1.0, 2.0, 4.0, 1000.0};
-const vector1<double> A_FACTOR{0.2, 0.42, 0.55, 0.6, 0.6};
-const vector1<double> B_FACTOR{0.2, 0.28, 0.3, 0.3, 0.3};
+constexpr std::array<double, 5> DEPTH_RATIO{0.0, 1.0, 2.0, 4.0, 1000.0};
+constexpr std::array<double, 5> A_FACTOR{0.2, 0.42, 0.55, 0.6, 0.6};
+constexpr std::array<double, 5> B_FACTOR{0.2, 0.28, 0.3, 0.3, 0.3};
 
 struct strength_table {
   int NZ;
@@ -37,7 +38,7 @@ double mean_strength(const strength_table& table, int count, double top, double 
   return sum / count;
 }
 
-double factor(const vector1<double>& row, double ratio, int& IERR) {
+double factor(table_view row, double ratio, int& IERR) {
   double value = 0.0;
   Interpolate(5, 1, DEPTH_RATIO, row, ratio, value, IERR);
   if (IERR != 0) IERR += 20;

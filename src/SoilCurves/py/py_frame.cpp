@@ -1,5 +1,6 @@
 #include "SoilCurves/py/py_frame.hpp"
 
+#include "Control/state/Interpolate.hpp"
 #include "Control/state/report.hpp"
 #include "SoilCurves/py/APILAT.hpp"
 #include "SoilCurves/store/curve_store.hpp"
@@ -22,6 +23,15 @@ std::optional<py_layer> open_py(common& cmn, layer_number NL, diameter_number ND
   layer.D = cmn.DIAM(ND);
   layer.GAM = (cmn.SIGZRES(NL) - cmn.DSIGZ(NL)) / H;
   return layer;
+}
+
+std::optional<double> table_value(common& cmn, const py_method& method, table_view X, table_view Y,
+                                  double XI) {
+  double YI = 0.0;
+  KestraCommonLibrary::Utils::Interpolate(X.size(), 1, X, Y, XI, YI, cmn.IERR);
+  if (cmn.IERR == 0) return YI;
+  fail(cmn, 1, method.lookup, cmn.IERR);
+  return std::nullopt;
 }
 
 std::optional<double> ultimate_resistance(common& cmn, const py_layer& layer, const py_method& method,

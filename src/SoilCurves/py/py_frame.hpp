@@ -32,6 +32,10 @@ struct py_method {
 /// returned. Cyclic is a matter of level alone: a layer strictly above ZCYCL is cyclic.
 std::optional<py_layer> open_py(common& cmn, layer_number NL, diameter_number ND, double ZTOL);
 
+/// A published table at XI. On failure prints the method's message, sets IERR to 1 and returns nothing.
+std::optional<double> table_value(common& cmn, const py_method& method, table_view X, table_view Y,
+                                  double XI);
+
 /// Ultimate resistance of the layer by APILAT, as a stress; a strength SU of 0.0 asks for the sand formula.
 /// On failure prints the method's message, sets IERR to 1 and returns nothing.
 std::optional<double> ultimate_resistance(common& cmn, const py_layer& layer, const py_method& method,

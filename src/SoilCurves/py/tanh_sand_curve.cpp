@@ -1,10 +1,9 @@
 #include "SoilCurves/py/tanh_sand_curve.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
-#include "Control/state/Interpolate.hpp"
-#include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/store/curve_store.hpp"
 
@@ -12,27 +11,18 @@ namespace tervak {
 
 namespace {
 
-const vector1<double> ANGLES{0.0, 29.0, 30.0, 36.0, 40.0, 45.0, 90.0};
-const vector1<double> SUBMERGED{0.0, 272.0, 869.0, 2498.0, 4209.0, 5974.0, 5974.0};
-const vector1<double> ABOVE_WATER{0.0, 272.0, 1222.0, 4263.0, 7549.0, 10183.0, 10183.0};
+constexpr std::array<double, 7> ANGLES{0.0, 29.0, 30.0, 36.0, 40.0, 45.0, 90.0};
+constexpr std::array<double, 7> SUBMERGED{0.0, 272.0, 869.0, 2498.0, 4209.0, 5974.0, 5974.0};
+constexpr std::array<double, 7> ABOVE_WATER{0.0, 272.0, 1222.0, 4263.0, 7549.0, 10183.0, 10183.0};
 
 constexpr double FRACTIONS[] = {sp(0.111f), sp(0.222f), sp(0.333f), sp(0.444f), sp(0.555f),
                                 sp(0.666f), sp(0.777f), sp(0.888f), sp(0.999f)};
 
 }  // namespace
 
-std::optional<double> modulus_from_table(common& cmn, const py_layer& layer, const py_method& method,
-                                         const vector1<double>& PHI, const vector1<double>& KV) {
-  double value = 0.0;
-  KestraCommonLibrary::Utils::Interpolate(7, 1, PHI, KV, cmn.PHIR(layer.NL), value, cmn.IERR);
-  if (cmn.IERR == 0) return value;
-  fail(cmn, 1, method.lookup, cmn.IERR);
-  return std::nullopt;
-}
-
 std::optional<double> modulus_by_water_level(common& cmn, const py_layer& layer, const py_method& method) {
   const bool dry = cmn.ZPWP > cmn.ZLAY(layer.NL);
-  return modulus_from_table(cmn, layer, method, ANGLES, dry ? ABOVE_WATER : SUBMERGED);
+  return table_value(cmn, method, ANGLES, dry ? ABOVE_WATER : SUBMERGED, cmn.PHIR(layer.NL));
 }
 
 double load_factor(const py_layer& layer, int ICYCL) {

@@ -9,10 +9,6 @@ namespace tervak {
 /// On failure prints the method's message, sets IERR to 1 and returns nothing.
 std::optional<double> modulus_by_water_level(common& cmn, const py_layer& layer, const py_method& method);
 
-/// The same from a table of seven friction angles PHI and moduli KV.
-std::optional<double> modulus_from_table(common& cmn, const py_layer& layer, const py_method& method,
-                                         const vector1<double>& PHI, const vector1<double>& KV);
-
 /// Factor of the load on the ultimate resistance: 0.9, and above it 3.0 - 0.8 H / D near the surface when
 /// static.
 double load_factor(const py_layer& layer, int ICYCL);

@@ -1,0 +1,117 @@
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <stdexcept>
+#include <vector>
+
+#include "BlockKeeper/ExhaustedMemory.hpp"
+#include "companion/shown.hpp"
+#include "Platform/console.hpp"
+#include "Platform/file_lock.hpp"
+#include "Platform/files.hpp"
+#include "Platform/process.hpp"
+#include "run/directory_checks.hpp"
+#include "run/findings.hpp"
+#include "run/log_file.hpp"
+#include "run/options.hpp"
+#include "run/placing.hpp"
+#include "run/refusal.hpp"
+#include "run/verdict.hpp"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace tervak;
+using companion::shown;
+
+constexpr int GOOD = 0, NOT_GOOD = 1, NOT_STARTED = 2;
+
+[[gnu::init_priority(101)]] const BlockKeeper::ExhaustedMemory<NOT_GOOD> exhausted_memory;
+
+void make_directory(const fs::path& directory) {
+  std::error_code error;
+  fs::create_directories(directory, error);
+  if (error || !fs::is_directory(directory, error))
+    throw run::refusal("cannot make the directory " + shown(directory) +
+                       (error ? ": " + error.message() : ""));
+}
+
+/// Refuses where another run is at work in the directory.
+void expect_held(const os::file_lock& lock, const fs::path& directory) {
+  if (lock.taken()) throw run::refusal("another run is at work in " + shown(directory));
+  if (!lock.opened()) throw run::refusal("cannot write in " + shown(directory) + ": " + lock.failure());
+  if (!lock.held())
+    std::cerr << "tervak-run: files cannot be locked in " << shown(directory)
+              << ": see that no other run works there\n";
+}
+
+void show(const std::string& heading, const run::findings& found) {
+  if (!found.text.empty()) std::cout << heading << '\n' << found.text << std::flush;
+}
+
+int make_run(const fs::path& program, const fs::path& directory, const run::deck_findings& deck) {
+  const run::findings of_deck = deck.of_deck();
+  show(deck.refused() ? "faults of the deck:" : "warnings of the deck:", of_deck);
+  const run::log_file log(directory);
+  run::run_facts facts;
+  facts.directory = directory;
+  facts.end = os::run_program(program, directory);
+  facts.log = log.read();
+  if (!facts.log.empty()) {
+    const run::findings of_log = deck.of_log(facts.log);
+    show("warnings and errors of the run log:", of_log);
+    facts.warnings = of_deck.warnings + of_log.warnings;
+  }
+  if (facts.end.failure.empty() && os::interrupted() == 0)
+    facts.results = companion::results_of(directory, program);
+  std::cout << verdict(facts);
+  return is_good(facts) ? GOOD : NOT_GOOD;
+}
+
+/// `status`, that of this program, changes when the run begins and when it is known to be good.
+void run_deck(const run::options& o, int& status) {
+  if (os::kind_of(o.deck) == os::file_kind::absent) throw run::refusal("no such deck: " + shown(o.deck));
+  static_cast<void>(os::read_file(o.deck));  // before a directory is made for it
+  const fs::path program = os::find_program("tervak");
+  if (program.empty()) throw run::refusal("cannot find the program tervak beside tervak-run or on the path");
+
+  make_directory(o.directory);
+  run::check_directory(o.directory, o.deck);
+  static_cast<void>(run::placing(o.deck, o.directory));  // what is refused is refused with nothing touched
+  const os::file_lock lock(o.directory / ".tervak-run.lock");
+  expect_held(lock, o.directory);
+  run::check_directory(o.directory, o.deck);
+  const run::placing files(o.deck, o.directory);
+  files.place();
+
+  const fs::path directory = fs::canonical(o.directory);
+  std::cout << "deck:       " << shown(o.deck) << "\ndirectory:  " << shown(directory) << '\n';
+  if (files.nodes_of_directory())
+    std::cout << "pile nodes: PILEPLOT.TXT of this directory; none is beside the deck\n";
+  std::cout << std::flush;
+  status = NOT_GOOD;
+  const int found = make_run(program, directory, run::deck_findings(files.deck(), shown(o.deck)));
+  if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
+  status = found;
+}
+
+void run_words(const std::vector<std::string>& words, int& status) {
+  const run::options o = run::parse_options(words);
+  if (!o.help) return run_deck(o, status);
+  if (std::cout << run::usage_text << std::flush) status = GOOD;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  int status = NOT_STARTED;
+  try {
+    os::hold_standard_streams();
+    os::catch_interrupts();
+    run_words(os::start_console(count, words), status);
+  } catch (const std::exception& error) {
+    std::cerr << "tervak-run: " << error.what() << '\n';
+  }
+  if (os::interrupted() != 0) os::end_interrupted();
+  return status;
+}
