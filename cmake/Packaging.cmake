@@ -4,13 +4,13 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(tervak_executable ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 
-install(TARGETS tervak tervak-report tervak-check tervak-run RUNTIME)
+install(TARGETS tervak tervak-report tervak-check tervak-run tervak-explain RUNTIME)
 
 # Manual pages, without a time stamp in them.
 find_program(GZIP_EXECUTABLE gzip REQUIRED)
 mark_as_advanced(GZIP_EXECUTABLE)
 set(pages "")
-foreach(name tervak tervak-run tervak-report tervak-check)
+foreach(name tervak tervak-run tervak-report tervak-check tervak-explain)
   set(page ${PROJECT_BINARY_DIR}/man/${name}.1.gz)
   add_custom_command(OUTPUT ${page} DEPENDS man/${name}.1 VERBATIM
     COMMAND ${GZIP_EXECUTABLE} -9nc ${PROJECT_SOURCE_DIR}/man/${name}.1 > ${page})
@@ -36,7 +36,7 @@ offshore pile foundations from a description of the soil, by API, ISO, ICP,
 NGI and other published methods, and writes them for KESTRA and USFOS.
 tervak-run runs one deck in a directory of its own, tervak-check says what is
 wrong with a deck or a run and where, tervak-report shows the results as a web
-page.")
+page, tervak-explain shows how each curve was made.")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

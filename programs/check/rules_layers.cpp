@@ -73,7 +73,7 @@ constexpr rule RULES[] = {
     {"stiff-line", "clay of revision 5 above `SUSTIF`, P-Y codes 214, 284, 287, 404",
      "strengths by the program's line differ from those given by more than 5 %",
      "; take one layer in each main layer above (NSUBM), or check the peaks",
-     "the curve rests on a line that begins at another level than the layer, see [methods.md](methods.md)",
+     "the curve rests on a line that begins at another level than the layer, see [methods/py.md](methods/py.md)",
      stiff_line},
 };
 

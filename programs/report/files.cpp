@@ -4,9 +4,11 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
 
+#include "Platform/names.hpp"
 #include "Platform/streams.hpp"
 
 namespace tervak::report {
@@ -30,55 +32,62 @@ std::FILE* open_beside(const std::string& name, std::string& chosen) {
 
 }  // namespace
 
-std::string read_file(const std::string& name) {
+std::ifstream open_file(const std::string& name) {
+  const fs::path file = os::path_of(name);
   std::error_code error;
-  if (fs::exists(name, error) && !fs::is_regular_file(name, error))
+  if (fs::exists(file, error) && !fs::is_regular_file(file, error))
     throw std::runtime_error(name + ": expected a regular file");
-  std::FILE* const file = os::open_stream(name, "rb");
-  if (file == nullptr) fail(name, "cannot be opened", errno);
-  std::string text;
-  char block[65536];
-  while (const std::size_t count = std::fread(block, 1, sizeof block, file)) text.append(block, count);
-  const bool failed = std::ferror(file) != 0;
-  const int cause = errno;
-  std::fclose(file);
-  if (failed) fail(name, "cannot be read", cause);
-  return text;
+  errno = 0;
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) fail(name, "cannot be opened", errno);
+  return stream;
+}
+
+std::string read_file(const std::string& name) {
+  std::ifstream in = open_file(name);
+  std::ostringstream text;
+  text << in.rdbuf();
+  if (in.bad()) throw std::runtime_error(name + ": cannot be read");
+  return text.str();
 }
 
 bool same_file(const std::string& input, const std::string& output) {
   std::error_code error;
-  return fs::equivalent(input, output, error) ||
-         fs::weakly_canonical(input, error) == fs::weakly_canonical(output, error);
+  const fs::path one = os::path_of(input), other = os::path_of(output);
+  return fs::equivalent(one, other, error) ||
+         fs::weakly_canonical(one, error) == fs::weakly_canonical(other, error);
 }
 
 void make_directory(const std::string& name) {
   std::error_code error;
-  fs::create_directories(name, error);
-  if (fs::is_directory(name)) return;
-  if (fs::exists(name)) throw std::runtime_error(name + ": something other than a directory stands there");
+  const fs::path directory = os::path_of(name);
+  fs::create_directories(directory, error);
+  if (fs::is_directory(directory)) return;
+  if (fs::exists(directory))
+    throw std::runtime_error(name + ": something other than a directory stands there");
   fail(name, "cannot be made", error.value());
 }
 
 void write_file(const std::string& name, const std::string& text) {
+  const fs::path file = os::path_of(name);
   std::error_code error;
-  if (fs::exists(name, error) && !fs::is_regular_file(name, error))
+  if (fs::exists(file, error) && !fs::is_regular_file(file, error))
     throw std::runtime_error(name + ": something other than a regular file stands there, it is left alone");
   std::string part;
-  std::FILE* const file = open_beside(name, part);
-  bool good = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+  std::FILE* const stream = open_beside(name, part);
+  bool good = std::fwrite(text.data(), 1, text.size(), stream) == text.size();
   int cause = good ? 0 : errno;
-  if (std::fclose(file) != 0 && good) {
+  if (std::fclose(stream) != 0 && good) {
     good = false;
     cause = errno;
   }
   if (good) {
     // The rename of this library replaces a file on every system.
-    fs::rename(part, name, error);
+    fs::rename(os::path_of(part), file, error);
     if (!error) return;
     cause = error.value();
   }
-  fs::remove(part, error);
+  fs::remove(os::path_of(part), error);
   fail(name, "cannot be written", cause);
 }
 

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <fstream>
 #include <string>
 
 namespace tervak::report {
 
-/// The bytes of a regular file. Throws std::runtime_error with the name and the cause.
+/// A regular file, opened for reading. Throws std::runtime_error with the name and the cause.
+std::ifstream open_file(const std::string& name);
+
+/// The whole of a regular file. Throws std::runtime_error with the name and the cause.
 std::string read_file(const std::string& name);
 
 /// Whether writing `output` would replace `input`, by whatever path or link.

@@ -1,10 +1,10 @@
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <numeric>
 #include <stdexcept>
 
 #include "Platform/console.hpp"
+#include "Platform/names.hpp"
 #include "report/compare.hpp"
 #include "report/compare_page.hpp"
 #include "report/files.hpp"
@@ -18,7 +18,7 @@
 namespace {
 
 using namespace tervak::report;
-namespace fs = std::filesystem;
+namespace os = tervak::os;
 
 void refuse_input(const std::string& input, const std::string& output, const char* what) {
   if (same_file(input, output))
@@ -28,8 +28,8 @@ void refuse_input(const std::string& input, const std::string& output, const cha
 void write_page(const options& o) {
   const std::string output = o.output.empty() ? "TERVAK.html" : o.output;
   refuse_input(o.input, output, "page");
-  const interface_file file = read_interface_file(o.input, read_file(o.input));
-  const page_facts facts{fs::path(o.input).filename().string(), o.u, run_log_beside(o.input),
+  const interface_file file = read_interface_file(o.input, open_file(o.input));
+  const page_facts facts{os::name_of(os::path_of(o.input).filename()), o.u, run_log_beside(o.input),
                          read_deck_beside(o.input, file)};
   write_file(output, page(file, facts));
   std::size_t layers = 0;
@@ -48,7 +48,7 @@ void in_file(const options& o, const std::string& what, std::size_t wanted, std:
 }
 
 void write_pictures(const options& o) {
-  const interface_file file = read_interface_file(o.input, read_file(o.input));
+  const interface_file file = read_interface_file(o.input, open_file(o.input));
   const std::size_t number = o.selection.profile;
   in_file(o, "a profile", number, file.profiles.size());
   const profile& p = file.profiles[number - 1];
@@ -61,7 +61,8 @@ void write_pictures(const options& o) {
   const bool one = layers.size() == 1;
   const auto output = [&](std::size_t l) {
     if (one) return o.output.empty() ? std::string("TERVAK.svg") : o.output;
-    return (fs::path(o.output) / ("p" + std::to_string(number) + "-l" + std::to_string(l) + ".svg")).string();
+    return os::name_of(os::path_of(o.output) /
+                       ("p" + std::to_string(number) + "-l" + std::to_string(l) + ".svg"));
   };
   for (const std::size_t l : layers) refuse_input(o.input, output(l), "picture");
   if (!one && !o.output.empty()) make_directory(o.output);
@@ -75,8 +76,8 @@ void write_pictures(const options& o) {
 int compare(const options& o) {
   if (!o.output.empty())
     for (const std::string& input : {o.input, o.after}) refuse_input(input, o.output, "page");
-  const interface_file before = read_interface_file(o.input, read_file(o.input));
-  const interface_file after = read_interface_file(o.after, read_file(o.after));
+  const interface_file before = read_interface_file(o.input, open_file(o.input));
+  const interface_file after = read_interface_file(o.after, open_file(o.after));
   const comparison found = compare_files(before, after, o.tolerance);
   const std::string names = o.input + ", " + o.after;
   if (!o.output.empty()) write_file(o.output, compare_page(before, after, found, names, o.u));
@@ -99,7 +100,7 @@ int run(const options& o) {
       write_pictures(o);
       break;
     case task::tables:
-      std::cout << write_tables(o, read_interface_file(o.input, read_file(o.input)));
+      std::cout << write_tables(o, read_interface_file(o.input, open_file(o.input)));
       break;
     case task::comparison:
       return compare(o);

@@ -219,8 +219,8 @@ class profile_reader {
 
 }  // namespace
 
-interface_file read_interface_file(const std::string& file_name, std::string_view text) {
-  record_reader in(file_name, text);
+interface_file read_interface_file(const std::string& file_name, std::istream&& stream) {
+  record_reader in(file_name, stream);
   interface_file out;
   if (in.next_name() != "IDENT") in.refuse_here("expected record IDENT, with which an interface file begins");
   in.next();

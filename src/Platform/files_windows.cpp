@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "Platform/names.hpp"
 #include "Platform/streams.hpp"
 
 namespace tervak::os {
@@ -17,7 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void fail(const fs::path& file, const std::string& what, const std::string& cause) {
-  throw std::runtime_error(file.string() + ": " + what + ": " + cause);
+  throw std::runtime_error(name_of(file) + ": " + what + ": " + cause);
 }
 
 }  // namespace
@@ -50,10 +51,13 @@ const char* text_of(file_kind kind) {
   return "neither a file nor a directory";
 }
 
+// The program reaches its files by the C library, which stops here, whatever the file system takes.
+std::size_t longest_path() { return MAX_PATH - 1; }
+
 std::string read_file(const fs::path& file) {
   std::error_code error;
   if (fs::exists(file, error) && !fs::is_regular_file(file, error))
-    throw std::runtime_error(file.string() + ": is not a regular file");
+    throw std::runtime_error(name_of(file) + ": is not a regular file");
   std::FILE* const stream = _wfopen(file.c_str(), L"rb");
   if (stream == nullptr) fail(file, "cannot be opened", std::strerror(errno));
   std::string bytes;
@@ -71,7 +75,7 @@ void replace_file(const fs::path& file, std::string_view bytes) {
   std::FILE* stream = nullptr;
   for (int i = 0; i < 100 && stream == nullptr; ++i) {
     part = file.parent_path() / (".tervak-part" + std::to_string(i));
-    stream = create_stream(part.string());
+    stream = create_stream(name_of(part));
     if (stream == nullptr && errno != EEXIST) break;
   }
   if (stream == nullptr) fail(file, "cannot be written", std::strerror(errno));

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include "Platform/names.hpp"
 
 namespace tervak::os {
 
@@ -27,7 +28,7 @@ scratch_directory::scratch_directory() {
     error.assign(static_cast<int>(cause), std::system_category());
     break;
   }
-  throw std::runtime_error("cannot make a directory for temporary files in " + place.string() + ": " +
+  throw std::runtime_error("cannot make a directory for temporary files in " + name_of(place) + ": " +
                            error.message());
 }
 

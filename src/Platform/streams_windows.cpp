@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include "Platform/names.hpp"
 
 namespace tervak::os {
 
@@ -15,7 +16,7 @@ namespace {
 /// The system's form of a name; none, and errno, where it is no UTF-8.
 std::wstring wide(const std::string& name) {
   try {
-    return std::filesystem::path(name).native();
+    return path_of(name).native();
   } catch (const std::filesystem::filesystem_error&) {
     errno = EILSEQ;
     return {};

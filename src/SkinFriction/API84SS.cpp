@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
@@ -25,6 +26,10 @@ void API84SS(common& cmn, double SIGZ, double PHI, int IOC, double& TAUCMP, doub
   const double TOP = LIM > NO_STRESS ? LIM : std::clamp(sp(3.35f) * P - 19, 48.0, 115.0);
   TAUCMP = std::min(TAUCMP, TOP);
   TAUTNS = std::min(TAUTNS, TOP);
+  note(cmn, equation_of("AX-API-S1"), {{"phi", P, in::degrees}, {"delta", P - 5, in::degrees}});
+  note(cmn, equation_of("AX-API-S2"), {{"phi", PHI, in::degrees}, {"tl", TOP, in::stress}});
+  note(cmn, equation_of("AX-API-S3"), TAUCMP < TOP ? "sand" : "sand, limit tl",
+       {{"K", KC}, {"sig'", SIGZ, in::stress}, {"tc", TAUCMP, in::stress}, {"tt", TAUTNS, in::stress}});
   if (trace > 0)
     fem::write(
         cmn.units, trace,

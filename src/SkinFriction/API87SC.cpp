@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
 
@@ -16,6 +17,13 @@ void API87SC(common& cmn, double SIGZ, double SU, double& TAUSKN, int& IERR) {
     const double R = SU / SIGZ;
     const double A = R > 1 ? 0.5 * std::pow(R, -0.25) : 0.5 * std::pow(R, -0.5);
     TAUSKN = std::min(A, 1.0) * SU;
+    note(cmn, equation_of("AX-API-C1"), {{"Su", SU, in::stress}, {"sig'", SIGZ, in::stress}, {"psi", R}});
+    note(cmn, equation_of("AX-API-C2"),
+         A > 1.0 ? "alpha at most 1"
+         : R > 1 ? "psi > 1"
+                 : "psi <= 1",
+         {{"alpha", std::min(A, 1.0)}});
+    note(cmn, equation_of("AX-API-C3"), "clay", {{"tc", TAUSKN, in::stress}, {"tt", TAUSKN, in::stress}});
   }
   if (trace > 0)
     fem::write(cmn.units, trace,

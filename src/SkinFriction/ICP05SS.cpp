@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
@@ -62,6 +63,12 @@ void ICP05SS(common& cmn, int MCSAND, double SIGZ, double QCPT, double DISTH, do
   TAUCMP = (SRC + DSIG) * T;
   TAUTNS = (sp(0.8f) * SRC + DSIG) * T;
   if (IDOPCL == 1) TAUTNS = TAUTNS * sp(0.9f);
+  note(cmn, equation_of("AX-ICP-S1"),
+       {{"qc", QCPT, in::stress}, {"sig'", SIGZ, in::stress}, {"h / Rs", HR}, {"src", SRC, in::stress}});
+  note(cmn, equation_of("AX-ICP-S3"), {{"R", RAD, in::length}, {"dsrd", DSIG, in::stress}});
+  note(cmn, equation_of("AX-ICP-S4"), "sand", {{"delta", DLT, in::degrees}, {"tc", TAUCMP, in::stress}});
+  note(cmn, equation_of("AX-ICP-S5"), IDOPCL == 1 ? "open, f = 0.9" : "closed, f = 1",
+       {{"tt", TAUTNS, in::stress}});
   if (MCSAND != 4) {
     const double B = simplified_base(SIGZ, QCPT, H, RAD, WALL, IDOPCL, T);
     TAUCMP = sp(0.023f) * B;

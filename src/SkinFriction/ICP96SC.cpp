@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
@@ -38,6 +39,8 @@ void ICP96SC(common& cmn, double SIGZ, double& OCR, double SUCMP, double ST, dou
     const double PC = std::clamp(PLI, 20.0, 30.0);
     OCR = std::exp((std::log(SUCMP / SIGZ) - (sp(-0.82f) - sp(0.019f) * PC)) / 0.75);
     OCR = std::clamp(OCR, 1.0, 30.0);
+    note(cmn, equation_of("AX-ICP-C1"),
+         {{"Su", SUCMP, in::stress}, {"sig'", SIGZ, in::stress}, {"Ipc", PC}, {"YSR", OCR}});
   }
   double TD = 0;
   KestraCommonLibrary::Utils::Interpolate(6, 1, PLI_TABLE, TD_TABLE, PLI, TD, IERR);
@@ -47,6 +50,9 @@ void ICP96SC(common& cmn, double SIGZ, double& OCR, double SUCMP, double ST, dou
   }
   TAUSKN = (sp(2.2f) + sp(0.016f) * OCR - sp(0.87f) * std::log10(ST)) * std::pow(OCR, sp(0.42f)) *
            std::pow(RAT, sp(-0.2f)) * SIGZ * sp(0.8f) * TD;
+  note(cmn, equation_of("AX-ICP-C2"), {{"St", ST}, {"h / Rs", RAT}});
+  note(cmn, equation_of("AX-ICP-C3"), "clay",
+       {{"Ip", PLI}, {"tan(delta)", TD}, {"tc", TAUSKN, in::stress}, {"tt", TAUSKN, in::stress}});
   fem::write(
       cmn.units, cmn.NFLIS,
       "(/,' Routine ICP96SC trace print',/,'   SIGZ       OCR','        SUCMP      ST         PLI        RAT        TAUSKN',/,1p,7e11.3)",

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SkinFriction/limits.hpp"
@@ -46,6 +47,8 @@ void NGI05SC(common& cmn, double SIGZ, double SU, double PLI, int IOPEN, double&
   const int request = IERR;
   IERR = check(SIGZ, SU, PLI, IOPEN);
   TAUSKN = IERR == 0 ? friction(SIGZ, SU, PLI, IOPEN) : 0.0;
+  note(cmn, equation_of("AX-NGI-C4"), IERR == 0 ? "clay" : "refused",
+       {{"sig'", SIGZ, in::stress}, {"Su", SU, in::stress}, {"Ip", PLI}, {"tc", TAUSKN, in::stress}});
   const int trace = IERR != 0 ? ERROR_TRACE_UNIT : request;
   if (trace > 0)
     fem::write(

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 #include "fem/write.hpp"
 #include "SkinFriction/limits.hpp"
@@ -30,6 +31,16 @@ void NGI05SS(common& cmn, double SIGZ, double DR, double ZTIP, double ZNOW, int 
   const double T = F2 * F1 * F3 * F4 * 100 * ZN / ZT;
   TAUTNS = std::max(T, sp(0.1f) * SIGZ);
   TAUCMP = std::max(sp(1.3f) * T, sp(0.1f) * SIGZ);
+  note(cmn, equation_of("AX-NGI-S1"),
+       {{"zn", ZN, in::length},
+        {"zt", ZT, in::length},
+        {"Dr", DR},
+        {"sig'", SIGZ, in::stress},
+        {"Ftip", F3},
+        {"Fmat", F4},
+        {"tau", T, in::stress}});
+  note(cmn, equation_of("AX-NGI-S2"), TAUCMP > sp(0.1f) * SIGZ ? "sand" : "sand, lower limit",
+       {{"tt", TAUTNS, in::stress}, {"tc", TAUCMP, in::stress}});
   if (trace > 0)
     fem::write(
         cmn.units, trace,

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/shear_modulus.hpp"
 #include "Control/state/sp.hpp"
@@ -78,8 +79,17 @@ void take_values_at_level(common& cmn, int i, int m, const main_layer_rows& rows
   }
   cmn.DR(i) = cmn.DRM(m);
   cmn.PLI(i) = cmn.PLIM(m);
-  cmn.SUCMP(i) = cmn.SUCMP(i) / cmn.SFSU;
+  const double SU = cmn.SUCMP(i);
+  cmn.SUCMP(i) = SU / cmn.SFSU;
   cmn.PHIL(i) = std::atan(std::tan(cmn.PI * cmn.PHIM(m) / 180) / cmn.SFTPHI) * 180 / cmn.PI;
+  note_layer(cmn, i, equation_of("COR-LEV-1"), "",
+             {{"Z", cmn.ZLAY(i), in::length}, {"qc", cmn.CPTTIP(i), in::stress}, {"Su", SU, in::stress}});
+  note_layer(cmn, i, equation_of("COR-LEV-2"), "",
+             {{"SFSU", cmn.SFSU},
+              {"Su", cmn.SUCMP(i), in::stress},
+              {"PHIM", cmn.PHIM(m), in::degrees},
+              {"SFTPHI", cmn.SFTPHI},
+              {"phi", cmn.PHIL(i), in::degrees}});
   cmn.ZNOW(i) = cmn.ZLAY(i);
   cmn.SIGZ(i) = cmn.SIGZRES(i);
 }
@@ -112,19 +122,30 @@ void correlate_sand(common& cmn, int i) {
         i, CPT, PHIL, DR);
     stop(SOURCE, __LINE__, " ");
   }
+  note_layer(cmn, i, equation_of("COR-SAND-1"), "", {{"sig'", S, in::stress}, {"F", F}});
   if (CPT > cmn.EPS) {
     const double DRC = limited_density(sp(0.4f) * std::log(CPT / (22 * std::sqrt(S * PATM))));
+    note_layer(cmn, i, equation_of("COR-SAND-2"), cmn.EPS > DR ? "Dr from qc" : "Dr of the deck stays",
+               {{"qc", CPT, in::stress}, {"Dr", DRC}});
     if (cmn.EPS > DR) DR = DRC;
-    if (cmn.EPS > PHIL) PHIL = std::min(40.0, (DR * A + 23) * F);
+    if (cmn.EPS > PHIL) {
+      PHIL = std::min(40.0, (DR * A + 23) * F);
+      note_layer(cmn, i, equation_of("COR-SAND-3"), "phi from Dr", {{"Dr", DR}, {"phi", PHIL, in::degrees}});
+    }
   }
   if (cmn.EPS > CPT) {
     if (cmn.EPS > DR) {
       if (cmn.EPS > F) stop(SOURCE, __LINE__, "**** SR/R5SOIL : Zero division");
       DR = limited_density((PHIL / F - 23) / A);
+      note_layer(cmn, i, equation_of("COR-SAND-4"), "Dr from phi", {{"phi", PHIL, in::degrees}, {"Dr", DR}});
     }
     // Here the factor's constant is single precision, in F above it is double.
-    if (cmn.EPS > PHIL) PHIL = std::min(40.0, (DR * A + 23) * (1 - sp(0.082f) * std::log10(S / PATM)));
+    if (cmn.EPS > PHIL) {
+      PHIL = std::min(40.0, (DR * A + 23) * (1 - sp(0.082f) * std::log10(S / PATM)));
+      note_layer(cmn, i, equation_of("COR-SAND-3"), "phi from Dr", {{"Dr", DR}, {"phi", PHIL, in::degrees}});
+    }
     CPT = std::exp(2.5 * DR) * 22 * std::sqrt(S * PATM);
+    note_layer(cmn, i, equation_of("COR-SAND-5"), "qc from Dr", {{"Dr", DR}, {"qc", CPT, in::stress}});
   }
   cmn.POISL(i) = sp(0.3f);
 }
@@ -136,6 +157,8 @@ void derive_clay_values(common& cmn, int i) {
     cmn.OCRL(i) = std::pow(4 * cmn.SUCMP(i) / cmn.SIGZ(i), 1.25);
     cmn.ST(i) = std::clamp(2 * cmn.SIGZ(i) / cmn.SUCMP(i), 1.0, 8.0);
     cmn.POISL(i) = 0.5;
+    note_layer(cmn, i, equation_of("COR-CLAY-1"), "", {{"OCR", cmn.OCRL(i)}});
+    note_layer(cmn, i, equation_of("COR-CLAY-2"), "", {{"St", cmn.ST(i)}});
   }
 }
 
@@ -144,6 +167,11 @@ void set_shear_modulus(common& cmn, int i, int m) {
     cmn.GSOIL(i) = cmn.ATMPRS * std::tan(cmn.PHIR(i) * cmn.PI / 180) * 1000 *
                    std::sqrt(std::max(0.0, cmn.SIGZRES(i) / cmn.ATMPRS)) * 0.5 / (cmn.POISL(i) + 1) *
                    cmn.GOFAC(m);
+    note_layer(cmn, i, equation_of("COR-G-1"), "sand, phi > 0",
+               {{"phi", cmn.PHIR(i), in::degrees},
+                {"sig'", cmn.SIGZRES(i), in::stress},
+                {"f", cmn.GOFAC(m)},
+                {"G", cmn.GSOIL(i), in::stress}});
     // The depth table's row is that of the main layer's number, as it stands.
     if (cmn.EPS > cmn.G0SOIL(m)) cmn.G0SOIL(m) = cmn.EPS;
     return;
@@ -151,6 +179,9 @@ void set_shear_modulus(common& cmn, int i, int m) {
   double R = cmn.OCRL(i);
   if (cmn.EPS > R) R = std::pow(4 * cmn.SURED(i) / std::max(cmn.EPS, cmn.SIGZRES(i)), 1.25);
   cmn.GSOIL(i) = clay_stiffness_ratio(R) * cmn.SURED(i) * cmn.GOFAC(m);
+  note_layer(
+      cmn, i, equation_of("COR-G-2"), "clay",
+      {{"OCR", R}, {"Su", cmn.SURED(i), in::stress}, {"f", cmn.GOFAC(m)}, {"G", cmn.GSOIL(i), in::stress}});
 }
 
 void set_layer(common& cmn, int i, const main_layer_rows& rows) {
@@ -165,6 +196,8 @@ void set_layer(common& cmn, int i, const main_layer_rows& rows) {
   cmn.PHIR(i) = cmn.PHIL(i);
   cmn.SURED(i) = cmn.SUCMP(i);
   cmn.DELTAF(i) = 29;
+  note_layer(cmn, i, equation_of("COR-CLAY-3"), "",
+             {{"nu", cmn.POISL(i)}, {"delta", cmn.DELTAF(i), in::degrees}});
   set_shear_modulus(cmn, i, m);
 }
 
@@ -175,6 +208,8 @@ void average_cone_resistance(common& cmn, int i) {
   for (int j = 1; j <= 11; ++j)
     sum += looked_up(cmn, i, cmn.NUMLAY, cmn.ZLAY, cmn.CPTTIP, cmn.ZLAY(i) - 1.5 * cmn.DIAMP + (j - 1) * H);
   cmn.CPTAVR(i) = sum / 11;
+  note_layer(cmn, i, equation_of("COR-QC-2"), "",
+             {{"D", cmn.DIAMP, in::length}, {"qcm", cmn.CPTAVR(i), in::stress}});
 }
 
 }  // namespace

@@ -13,6 +13,9 @@ namespace tervak {
 /// A value that the deck gives is never replaced. SUCMP and PHIL are reduced by SFSU and SFTPHI, but a
 /// friction angle found by the correlations carries no safety factor. Every failure prints its message on the
 /// run log and ends the run (fem::stop_info).
+///
+/// Reads the main layers (ZMAIN to KSOILM, TCMTOP to GOFAC), LAYCOD, ZLAY, SIGZRES, SFTPHI, SFSU and DIAMP.
+/// Writes the soil values ZNOW to POISL, PHIR, SURED, GSOIL, and in the depth table POIS and G0SOIL.
 void R5SOIL(common& cmn);
 
 }  // namespace tervak

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "Platform/names.hpp"
 #include "Platform/streams.hpp"
 #include "TervakExchange/layer_rows.hpp"
 #include "TervakExchange/profile_checks.hpp"
@@ -19,7 +20,8 @@ namespace {
 /// beside it, in capitals, that the engineer may have written instead.
 std::string why_unopened(const std::string& name) {
   std::error_code error;
-  const std::filesystem::file_status entry = std::filesystem::symlink_status(name, error);
+  const std::filesystem::path file = tervak::os::path_of(name);
+  const std::filesystem::file_status entry = std::filesystem::symlink_status(file, error);
   if (error == std::errc::no_such_file_or_directory) {
     std::string text = std::string("cannot open the deck: ") + std::strerror(ENOENT);
     if (name == "tervak.inp" && tervak::os::case_tells_names_apart())
@@ -29,13 +31,13 @@ std::string why_unopened(const std::string& name) {
     return text;
   }
   if (std::filesystem::is_symlink(entry)) {
-    static_cast<void>(std::filesystem::status(name, error));
+    static_cast<void>(std::filesystem::status(file, error));
     if (error)
       return std::string("cannot open the deck: it is a link to a file that cannot be reached: ") +
              error.message();
   }
   errno = 0;
-  const std::ifstream again(std::filesystem::path(name), std::ios::binary);
+  const std::ifstream again(file, std::ios::binary);
   return std::string("cannot open the deck: ") +
          (again.is_open() || errno == 0 ? "its stream has failed" : std::strerror(errno));
 }

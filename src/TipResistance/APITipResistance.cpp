@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "TipResistance/tip_constants.hpp"
@@ -62,6 +63,11 @@ void APITipResistance(common& cmn, int MCSAND, double SIGZ, double PHI, double S
   const unit_resistance unit = MCSAND == 2 ? by_table(cmn, SIGZ, PHI, SIGMAX, IERR) : by_formula(SIGZ, PHI);
   if (IERR == 0) {
     const double Q = std::min(unit.QMAX, unit.QSIG);
+    note(cmn, equation_of("AX-API-T1"), unit.QMAX < unit.QSIG ? "sand, limit ql" : "sand",
+         {{"phi", PHI, in::degrees},
+          {"Nq sig'", unit.QSIG, in::kilopascal},
+          {"1000 ql", unit.QMAX, in::kilopascal},
+          {"q", Q, in::kilopascal}});
     const double DI = DIAM - 2 * WALL;
     QPLGD = DIAM * DIAM * QUARTER_PI * Q;
     QCORE = (DIAM * DIAM * QUARTER_PI - DI * DI * QUARTER_PI) * Q;

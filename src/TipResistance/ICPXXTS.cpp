@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "TipResistance/tip_checks.hpp"
@@ -13,6 +14,12 @@ namespace tervak {
 namespace {
 
 constexpr double CONE = 0.036;  // diameter of the penetrometer's cone, m
+
+int check_form(int MCSAND) {
+  if (MCSAND < 3) return 1;
+  if (MCSAND > 5) return 2;
+  return 0;
+}
 
 bool plugs(int MCSAND, double DR, double CPTAVR, double DIAM, double DI) {
   const double limit = 2 * (DR - sp(0.3f));
@@ -35,10 +42,7 @@ double open_tip_stress(int MCSAND, double CPTAVR, double DR36) {
 void ICPXXTS(common& cmn, int MCSAND, double SIGZ, double DR, double CPTTIP, double CPTAVR, double DIAM,
              double WALL, int IDOPCL, double QINS, double& QPLGD, double& QPLUG, double& QCORE, int& IDTIP,
              int& IERR) {
-  IERR = check_tip_arguments(MCSAND > 5   ? 2
-                             : MCSAND < 3 ? 1
-                                          : 0,
-                             SIGZ, DR, CPTTIP, CPTAVR, 200000, DIAM, WALL, IDOPCL);
+  IERR = check_tip_arguments(check_form(MCSAND), SIGZ, DR, CPTTIP, CPTAVR, 200000, DIAM, WALL, IDOPCL);
   if (IERR != 0) {
     remark(cmn, "(/,' **** SR/ICPXXTS ERROR   IERR =',i6)", IERR);
     return;
@@ -49,6 +53,8 @@ void ICPXXTS(common& cmn, int MCSAND, double SIGZ, double DR, double CPTTIP, dou
   const double DR36 = DIAM / CONE;
   if (IDOPCL == 2) {
     QPLGD = closed_tip_stress(MCSAND, CPTAVR, DR36) * AF;
+    note(cmn, equation_of("AX-ICP-T1"), "sand, closed",
+         {{"qcm", CPTAVR, in::stress}, {"D", DIAM, in::length}});
     QPLUG = 0;
     QCORE = 0;
     IDTIP = 2;
@@ -56,7 +62,12 @@ void ICPXXTS(common& cmn, int MCSAND, double SIGZ, double DR, double CPTTIP, dou
     const double QP = open_tip_stress(MCSAND, CPTAVR, DR36) * AF;
     const double QA = AN * CPTTIP;
     QCORE = QA;
-    if (plugs(MCSAND, DR, CPTAVR, DIAM, DI)) {
+    const bool plugged = plugs(MCSAND, DR, CPTAVR, DIAM, DI);
+    note(cmn, equation_of("AX-ICP-T2"), plugged ? "sand, plugged" : "sand, not plugged",
+         {{"Di", DI, in::length}, {"Dr", DR}, {"qcm", CPTAVR, in::stress}});
+    note(cmn, plugged ? equation_of("AX-ICP-T3") : equation_of("AX-ICP-T4"),
+         {{"qc", CPTTIP, in::stress}, {"D", DIAM, in::length}, {"As / Ap", AN / AF}});
+    if (plugged) {
       QPLGD = std::max(QP, QA);
       double QS = QA + QINS;
       if (QPLGD > QS) QS = QPLGD * 1.5;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "TipResistance/tip_checks.hpp"
@@ -23,12 +24,14 @@ void NGI05TS(common& cmn, double SIGZ, double DR, double CPTTIP, double CPTAVR, 
   const double AF = DIAM * DIAM * QUARTER_PI;
   if (IDOPCL != 2) {
     QPLGD = CPTAVR * sp(0.7f) / (3 * (DR * DR) + 1) * AF;
+    note(cmn, equation_of("AX-NGI-T1"), "sand, open", {{"qcm", CPTAVR, in::stress}, {"Dr", DR}});
     QCORE = (AF - DI * DI * QUARTER_PI) * CPTTIP;
     const double K = std::min(3.0, PLUGL * sp(0.2f) / DI + 1);
     QINT = K * (QINS - QICLAY) + QICLAY;
     IDTIP = QINT + QCORE > QPLGD ? 2 : 1;
   } else {
     QPLGD = CPTAVR * sp(0.8f) / (DR * DR + 1) * AF;
+    note(cmn, equation_of("AX-NGI-T2"), "sand, closed", {{"qcm", CPTAVR, in::stress}, {"Dr", DR}});
     QINT = 0;
     QCORE = 0;
     IDTIP = 2;

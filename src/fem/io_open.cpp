@@ -7,6 +7,7 @@
 #include "fem/io.hpp"
 #include "fem/utils/source_position.hpp"
 #include "fem/utils/stripped.hpp"
+#include "Platform/names.hpp"
 #include "Platform/streams.hpp"
 
 namespace fem {
@@ -15,7 +16,7 @@ namespace {
 
 bool exists(const std::string& name) {
   std::error_code error;
-  static_cast<void>(std::filesystem::status(name, error));
+  static_cast<void>(std::filesystem::status(tervak::os::path_of(name), error));
   return error != std::errc::no_such_file_or_directory;
 }
 

@@ -4,14 +4,15 @@
 #include <vector>
 
 #include "fem/io.hpp"
+#include "Platform/names.hpp"
 
 namespace fem {
 
 namespace {
 
 void report(const std::filesystem::path& path, const std::error_code& error) {
-  static_cast<void>(std::fprintf(stderr, "Error While Accessing : %s :: %s\n", path.string().c_str(),
-                                 error.message().c_str()));
+  static_cast<void>(std::fprintf(stderr, "Error While Accessing : %s :: %s\n",
+                                 tervak::os::name_of(path).c_str(), error.message().c_str()));
 }
 
 std::vector<std::filesystem::path> regular_files_here() {

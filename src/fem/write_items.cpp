@@ -29,55 +29,24 @@ std::optional<std::size_t> plain_width(std::string_view descriptor) {
 }  // namespace
 
 write_loop& write_loop::operator()(const char* text) {
-  return guarded([&] {
-    switch (mode_) {
-      case io_mode::unformatted:
-        return put(text);
-      case io_mode::list_directed:
-        return put_list_directed_text(text);
-      case io_mode::formatted:
-        return edit_text_constant(text);
-    }
-  });
+  return by_mode([&] { put(text); }, [&] { put_list_directed_text(text); },
+                 [&] { edit_text_constant(text); });
 }
 
 write_loop& write_loop::fixed_length(std::string_view text) {
-  return guarded([&] {
-    switch (mode_) {
-      case io_mode::unformatted:
-        return put(text);
-      case io_mode::list_directed:
-        return put_list_directed_text(text);
-      case io_mode::formatted:
-        return edit_fixed_length(text);
-    }
-  });
+  return by_mode([&] { put(text); }, [&] { put_list_directed_text(text); }, [&] { edit_fixed_length(text); });
 }
 
 write_loop& write_loop::operator()(int value) {
-  return guarded([&] {
-    switch (mode_) {
-      case io_mode::unformatted:
-        return put_raw(value);
-      case io_mode::list_directed:
-        return put_list_directed_number(utils::printed_value("%11d", value).text());
-      case io_mode::formatted:
-        return edit_integer(value);
-    }
-  });
+  return by_mode([&] { put_raw(value); },
+                 [&] { put_list_directed_number(utils::printed_value("%11d", value).text()); },
+                 [&] { edit_integer(value); });
 }
 
 write_loop& write_loop::operator()(double value) {
-  return guarded([&] {
-    switch (mode_) {
-      case io_mode::unformatted:
-        return put_raw(value);
-      case io_mode::list_directed:
-        return put_list_directed_number(utils::list_directed_to_string(value));
-      case io_mode::formatted:
-        return edit_real(value);
-    }
-  });
+  return by_mode([&] { put_raw(value); },
+                 [&] { put_list_directed_number(utils::list_directed_to_string(value)); },
+                 [&] { edit_real(value); });
 }
 
 template <class Value>

@@ -58,6 +58,20 @@ class write_loop {
     }
     return *this;
   }
+  /// An item, as the kind of statement has it.
+  template <class Unformatted, class ListDirected, class Formatted>
+  write_loop& by_mode(Unformatted unformatted, ListDirected list_directed, Formatted formatted) {
+    return guarded([&] {
+      switch (mode_) {
+        case io_mode::unformatted:
+          return unformatted();
+        case io_mode::list_directed:
+          return list_directed();
+        case io_mode::formatted:
+          return formatted();
+      }
+    });
+  }
   template <class Value>
   void put_raw(const Value& value);
   write_loop& fixed_length(std::string_view text);

@@ -5,7 +5,8 @@
 #   and no page has an equation that the source lacks;
 # - every block has its worked number as the routines make it now;
 # - every block has all its parts in their order;
-# - every curve code and every capacity method has its block.
+# - every curve code and every capacity method has its block;
+# - the names of methods that the page of tervak-report has are the labels of the tables (it may lack a name).
 set -eu
 program=$(realpath "$1")
 work=$(mktemp -d)
@@ -44,13 +45,22 @@ codes() { # pages; prints each code and method that no heading names
   done
 }
 
-# The check sees a changed formula, a line without its typeset form, a block without a part, a code without a block.
+names() { # the report's source; prints each name of a method that is not the label in the tables
+  sed -nE 's/.*\{curve_kind::(.)., ([0-9]+), "([^"]+)"\}.*/\1 \2 \3/p' "$@" | while read -r family code name; do
+    "$program" codes | grep -qE "^${family^}-[YZ] $code [45]+ $name *$" || echo "the report has $family $code $name"
+  done
+}
+
+# The check sees a changed formula, a line without its typeset form, a block without a part, a code without a block,
+# a name that is another's.
 printf '%s\n\n%s\n' '$$ a = b $$' '`PY-0-1`: `a = b` (me)' >"$work/good.md"
 sed 's/a = b/a = c/' "$work/good.md" | sed 1,2d >"$work/bad.md"
 printf '## P-Y 10, 100\n**Use.** x\n**Source.** y\n' >"$work/py.md"
 [ "$(equations "$work/good.md" | cut -f 2-)" = $'PY-0-1\ta = b\tme' ] && [ "$(equations "$work/bad.md" | wc -l)" = 2 ] &&
   [ "$(cd "$work" && shape py.md)" = "py.md: ## P-Y 10, 100: has Use Source " ] &&
-  [ "$(codes "$work/py.md" | grep -cxE 'no block: (P-Y (100|214)|T-Z 100|Method 3)')" = 3 ] ||
+  [ "$(codes "$work/py.md" | grep -cxE 'no block: (P-Y (100|214)|T-Z 100|Method 3)')" = 3 ] &&
+  [ "$(printf '%s\n' '{curve_kind::tz, 293, "API-93"},' '{curve_kind::py, 284, "API-87"}' | names)" = \
+    "the report has p 284 API-87" ] ||
   { echo "the check itself is at fault"; exit 1; }
 
 "$program" equations | sort >"$work/source"
@@ -61,6 +71,7 @@ printf '## P-Y 10, 100\n**Use.** x\n**Source.** y\n' >"$work/py.md"
   diff "$work/numbers" <(cat $pages | grep -E '^## |^\*\*Worked number') || true
   shape $pages
   codes $pages
+  names ../../programs/report/*.cpp
 } >"$work/faults"
 cat "$work/faults"
 [ ! -s "$work/faults" ]

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <numbers>
+#include <sstream>
 
 #include "programs/sample_rif.hpp"
 #include "report/axial_capacity.hpp"
@@ -21,7 +22,7 @@ interface_file approved(const std::string& example) {
   std::string text = work_directory::get(source / "tests/golden/approved" / example / "TERVAK.RIF");
   for (std::size_t at = 0; (at = text.find("\n#\n", at)) != std::string::npos;)
     text.replace(at, 2, "\n        ");
-  return read_interface_file("A.RIF", text);
+  return read_interface_file("A.RIF", std::istringstream(text));
 }
 
 /// A layer with one curve of each kind, which rises to its peak and stays.

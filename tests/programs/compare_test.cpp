@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
 
 #include "programs/sample_rif.hpp"
 #include "report/compare.hpp"
@@ -12,7 +13,7 @@ namespace {
 
 /// Two profiles of one name, of three layers and two diameters.
 interface_file sample_file() {
-  interface_file file = read_interface_file("T.RIF", sample::rif({2, 3, 2, true}));
+  interface_file file = read_interface_file("T.RIF", std::istringstream(sample::rif({2, 3, 2, true})));
   for (profile& p : file.profiles) p.name = "B";
   return file;
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "programs/sample_rif.hpp"
 #include "report/csv_tables.hpp"
 #include "report/curve_points.hpp"
@@ -29,7 +31,7 @@ TEST(CurvePoints, Filler) {
 }
 
 TEST(CsvTables, QuotesAndNumbers) {
-  interface_file file = read_interface_file("T.RIF", sample::rif({1, 3, 2, true}));
+  interface_file file = read_interface_file("T.RIF", std::istringstream(sample::rif({1, 3, 2, true})));
   file.profiles[0].name = "A, \"B\"\xF8";
   const std::vector<csv_file> files = csv_files(file, {}, {false, {"kN", "m"}});
   ASSERT_EQ(files.size(), 5U);
@@ -48,7 +50,7 @@ TEST(CsvTables, QuotesAndNumbers) {
 }
 
 TEST(CsvTables, WhatCannotBeGivenIsEmpty) {
-  interface_file file = read_interface_file("T.RIF", sample::rif({1, 2, 1}));
+  interface_file file = read_interface_file("T.RIF", std::istringstream(sample::rif({1, 2, 1})));
   file.profiles[0].layers[1].tz_code = 100;
   EXPECT_NE(csv_files(file, {}, {}).at(2).text.find("\r\n1,1,2,,,98.9601686,,\r\n"), std::string::npos)
       << "126 pi / 4";

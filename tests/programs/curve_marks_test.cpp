@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "programs/sample_rif.hpp"
 #include "report/curve_view.hpp"
 #include "report/read_interface_file.hpp"
@@ -93,7 +95,8 @@ TEST(CurveMarks, ShapeEnds) {
 }
 
 TEST(CurveMarks, ByLayer) {
-  const profile p = read_interface_file("T.RIF", sample::rif({1, 5, 2, true, ""})).profiles[0];
+  const profile p =
+      read_interface_file("T.RIF", std::istringstream(sample::rif({1, 5, 2, true, ""}))).profiles[0];
   const auto marks = [&](std::size_t i, curve_kind kind) {
     return text_of(marks_of(p, p.layers[i], kind)[1]);
   };
@@ -114,7 +117,7 @@ TEST(CurveMarks, ByLayer) {
 
 // Peaks of P-Y in layers 2 to 5 are 32, 44, 56, 68; 2 and 4 are sand.
 TEST(CurveMarks, NeighboursOfOneSoilAndCode) {
-  profile p = read_interface_file("T.RIF", sample::rif({1, 5, 1, false, ""})).profiles[0];
+  profile p = read_interface_file("T.RIF", std::istringstream(sample::rif({1, 5, 1, false, ""}))).profiles[0];
   const auto jump = [&](double factor) {
     profile q = p;
     q.layers[3].PHIR = q.layers[2].PHIR;

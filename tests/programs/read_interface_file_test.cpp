@@ -28,7 +28,7 @@ std::string text_of(const strings& lines, const std::string& end = "\n") {
 
 std::string refusal(const std::string& text) {
   try {
-    read_interface_file("T.RIF", text);
+    read_interface_file("T.RIF", std::istringstream(text));
   } catch (const rif_error& error) {
     return error.what();
   }
@@ -36,7 +36,8 @@ std::string refusal(const std::string& text) {
 }
 
 TEST(ReadInterfaceFile, TakesAllRecords) {
-  const interface_file file = read_interface_file("T.RIF", sample::rif({2, 3, 2, true, "A <label>"}));
+  const interface_file file =
+      read_interface_file("T.RIF", std::istringstream(sample::rif({2, 3, 2, true, "A <label>"})));
   EXPECT_EQ(file.date_lines[1], "DATE:     05-Mar-2024");
   ASSERT_EQ(file.profiles.size(), 2U);
   const profile& p = file.profiles[1];
@@ -131,8 +132,27 @@ TEST(ReadInterfaceFile, RefusesCutAndUnfinishedFiles) {
   EXPECT_EQ(refusal(good.substr(0, good.size() - 1)), "taken");
 }
 
+TEST(ReadInterfaceFile, RefusesNonsenseAtOnceAndQuotesLittleOfIt) {
+  const strings lines = lines_of(sample::rif());
+  // In front, in a name, in a text line, in a field.
+  for (const std::ptrdiff_t count : {0, 2, 7, 20}) {
+    const std::string good = text_of(strings(lines.begin(), lines.begin() + count));
+    std::istringstream stream(good + "        " + std::string(1000000, '\x1b'));
+    try {
+      read_interface_file("T.RIF", std::move(stream));
+      FAIL();
+    } catch (const rif_error& error) {
+      EXPECT_LT(std::string(error.what()).size(), 800U);
+      EXPECT_EQ(std::string(error.what()).find('\x1b'), std::string::npos);
+      stream.clear();
+      EXPECT_LT(stream.tellg(), good.size() + 1000);
+    }
+  }
+}
+
 TEST(RecordReader, RefusesUnknownNames) {
-  record_reader in("T.RIF", "RVSOILXX  4.00000000E+00\n");
+  std::istringstream stream("RVSOILXX  4.00000000E+00\n");
+  record_reader in("T.RIF", stream);
   try {
     in.next();
     FAIL();

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <set>
+#include <sstream>
 
 #include "programs/sample_rif.hpp"
 #include "report/layer_picture.hpp"
@@ -70,7 +71,8 @@ TEST(ReportPlot, NoTwoOfFiftyLinesLookAlike) {
 }
 
 TEST(ReportPage, NothingBreaksOut) {
-  const interface_file file = read_interface_file("T.RIF", sample::rif({1, 3, 2, false, "</script><b>&"}));
+  const interface_file file =
+      read_interface_file("T.RIF", std::istringstream(sample::rif({1, 3, 2, false, "</script><b>&"})));
   const run_log log = parse_run_log(" **** WARNING </script><i>\r\n NORMAL EXIT FROM TERVAK\r\n");
   const std::string bare = page(file, {"a</script><u>.RIF", {}, log, {}});
   for (const char* tag : {"<b>&", "<i>", "<u>"}) EXPECT_EQ(bare.find(tag), std::string::npos) << tag;
@@ -113,7 +115,7 @@ std::size_t count_of(const std::string& part, const std::string& text) {
 
 TEST(ReportPicture, DrawsALayer) {
   const interface_file file =
-      read_interface_file("T.RIF", sample::rif({2, 5, 2, false, "</title><b> & \x01"}));
+      read_interface_file("T.RIF", std::istringstream(sample::rif({2, 5, 2, false, "</title><b> & \x01"})));
   const std::string picture = layer_picture(file.profiles[1], 1, {"kN", "m"});
   EXPECT_NE(picture.find("<title>Profile 2: BORING-2, layer 2 of 5</title>"), std::string::npos);
   EXPECT_NE(picture.find(">&lt;/title&gt;&lt;b&gt; &amp; \xEF\xBF\xBD</text>"), std::string::npos);

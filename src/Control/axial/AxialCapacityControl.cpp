@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "Control/axial/axial_messages.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SkinFriction/API84SS.hpp"
@@ -79,6 +80,15 @@ pile_at_layer describe(const common& cmn, int i) {
   return p;
 }
 
+void tell_pile(const common& cmn, const pile_at_layer& p) {
+  note(cmn, equation_of("AX-PILE-1"), p.IDOPCL == CLOSED_TIP ? "closed tip" : "open tip",
+       {{"w", cmn.WALL, in::length}, {"D", cmn.DIAMP, in::length}});
+  note(cmn, equation_of("AX-PILE-2"),
+       {{"ZTIP", cmn.ZTIP, in::length}, {"Z", cmn.ZNOW(p.i), in::length}, {"h", p.DISTH, in::length}});
+  note(cmn, equation_of("AX-PILE-3"), {{"h / Rs", p.RAT}});
+  note(cmn, equation_of("AX-PILE-4"), p.method, {{"Su", p.SU, in::stress}, {"phi", p.PHIU, in::degrees}});
+}
+
 void sand_friction(common& cmn, const pile_at_layer& p) {
   double& TAUCMP = cmn.TAUCMP(p.i);
   double& TAUTNS = cmn.TAUTNS(p.i);
@@ -121,10 +131,14 @@ void clay_friction(common& cmn, const pile_at_layer& p) {
 
 double clay_tip(const common& cmn, const pile_at_layer& p) {
   const double by_strength = 9 * p.SU;
-  if (p.method != "ICP-05") return by_strength;
   const double QCM = std::min(cmn.CPTAVR(p.i), cmn.CPTTIP(p.i));
-  if (cmn.EPS > QCM) return by_strength;
-  return (p.IDOPCL == OPEN_TIP ? sp(0.4f) : sp(0.8f)) * QCM;
+  if (p.method != "ICP-05" || cmn.EPS > QCM) {
+    note(cmn, equation_of("AX-CLAY-1"), "clay", {{"Su", p.SU, in::stress}, {"q", by_strength, in::stress}});
+    return by_strength;
+  }
+  const double q = (p.IDOPCL == OPEN_TIP ? sp(0.4f) : sp(0.8f)) * QCM;
+  note(cmn, equation_of("AX-ICP-T5"), "clay", {{"min(qcm, qc)", QCM, in::stress}, {"q", q, in::stress}});
+  return q;
 }
 
 double sand_tip(common& cmn, const pile_at_layer& p) {
@@ -162,16 +176,24 @@ double sand_tip(common& cmn, const pile_at_layer& p) {
 }
 
 void calculate(common& cmn, const pile_at_layer& p) {
+  note_about(cmn, {note_subject::part::axial, p.i, 0});
+  if (!p.method.empty()) tell_pile(cmn, p);
+  const bool friction_given = cmn.TAUCMP(p.i) + cmn.TAUTNS(p.i) > cmn.EPS;
+  const bool tip_given = cmn.QTIP(p.i) > cmn.EPS;
   // The label is tested only where something is to be calculated.
-  if (!(cmn.TAUCMP(p.i) + cmn.TAUTNS(p.i) > cmn.EPS) && !p.method.empty()) {
+  if (!friction_given && !p.method.empty()) {
     if (p.sand) {
       sand_friction(cmn, p);
     } else {
       clay_friction(cmn, p);
     }
   }
-  if (!(cmn.QTIP(p.i) > cmn.EPS) && !p.method.empty())
-    cmn.QTIP(p.i) = p.sand ? sand_tip(cmn, p) : clay_tip(cmn, p);
+  if (!tip_given && !p.method.empty()) cmn.QTIP(p.i) = p.sand ? sand_tip(cmn, p) : clay_tip(cmn, p);
+  if (friction_given || p.method.empty())
+    note(cmn, equation_of("AX-0-1"), "friction of the deck",
+         {{"tc", cmn.TAUCMP(p.i), in::stress}, {"tt", cmn.TAUTNS(p.i), in::stress}});
+  if (tip_given || p.method.empty())
+    note(cmn, equation_of("AX-0-1"), "tip stress of the deck", {{"q", cmn.QTIP(p.i), in::stress}});
 }
 
 }  // namespace

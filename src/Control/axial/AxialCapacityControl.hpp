@@ -12,6 +12,9 @@ namespace tervak {
 /// correlations never carried SFTPHI. A wall above a quarter of the diameter counts as a closed tip; a layer
 /// below the tip stands as if at the tip. Every failure ends the run (fem::stop_info): a method's error
 /// prints on the run log and the listing, a tip that does not plug on the run log only.
+///
+/// Reads METHOD, the pile (DIAMP, WALL, ZTIP, MATPIL) and the soil values of R5SOIL.
+/// Writes TAUCMP, TAUTNS and QTIP where the deck gives none.
 void R5AXCAP(common& cmn);
 
 }  // namespace tervak

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "Control/layers/layer_profile.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/shear_modulus.hpp"
 
 namespace tervak {
@@ -45,6 +46,9 @@ void set_shear_moduli(common& cmn) {
     const int k = layer_at(cmn, cmn.ZTQZ(j));
     G0 = cmn.PHIR(k) > cmn.EPS ? sand_modulus(cmn, k, j, GF) : clay_modulus(cmn, k, GF);
     if (cmn.EPS > G0) G0 = cmn.EPS;
+    const bool sand = cmn.PHIR(k) > cmn.EPS;
+    note_layer(cmn, k, sand ? equation_of("COR-G-1") : equation_of("COR-G-2"), sand ? "sand" : "clay",
+               {{"Z", cmn.ZTQZ(j), in::length}, {"f", GF}, {"G", G0, in::stress}});
   }
 }
 

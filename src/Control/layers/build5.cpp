@@ -15,8 +15,6 @@ constexpr const char* NEGATIVE_SU =
 constexpr const char* TWO_STRENGTHS =
     "(/,' **** SR/BUILD5 : BOTH PHI AND SU ARE NON-ZERO',/,' LAY,PHI,SU=',i5,2f10.3)";
 
-constexpr int MOST_LAYERS = 500;
-
 /// A layer's bottom by a pile node lies this far below the node.
 constexpr double BELOW_NODE = 0.001;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 
@@ -34,6 +35,11 @@ void set_unit_weights(common& cmn, const layer_profile_texts& texts) {
       cmn.GAMEFF(i) =
           ((cmn.ZPWP - T) * G + (G - cmn.GAMPWP) * (cmn.ZBOTM(i) - cmn.ZPWP)) / (cmn.ZBOTM(i) - T);
     }
+    note_layer(cmn, i, equation_of("LAY-2"), "",
+               {{"gt", G, in::weight},
+                {"gp", cmn.GAMPWP, in::weight},
+                {"zw", cmn.ZPWP, in::length},
+                {"g'", cmn.GAMEFF(i), in::weight}});
     if (texts.low_unit_weight > cmn.GAMEFF(i)) remark(cmn, texts.weight_warning, i, cmn.GAMEFF(i));
   }
 }
@@ -64,6 +70,7 @@ double stress_lost_to_local_scour(const common& cmn, const scour_levels& scour) 
 /// gives back.
 void set_overburden(common& cmn, const scour_levels& scour) {
   const double SIGLOC = stress_lost_to_local_scour(cmn, scour);
+  note_layer(cmn, 0, equation_of("LAY-4"), "", {{"sl", SIGLOC, in::stress}});
   double S = 0;
   double T = scour.ZLOC;
   const auto carry = [&](int i, double H, double Z) {
@@ -72,11 +79,21 @@ void set_overburden(common& cmn, const scour_levels& scour) {
   };
   for (int i = 1; i <= cmn.NUMLAY; ++i) {
     cmn.SIGZRES(i) = 0;
-    if (scour.ZLOC > cmn.ZLAY(i)) continue;
+    if (scour.ZLOC > cmn.ZLAY(i)) {
+      note_layer(cmn, i, equation_of("LAY-6"), "above the local scour level: no stress",
+                 {{"Z", cmn.ZLAY(i), in::length}, {"zl", scour.ZLOC, in::length}, {"sig'", 0.0, in::stress}});
+      continue;
+    }
     const double F = std::pow(sp(0.31f), (cmn.ZLAY(i) - scour.ZLOC) / scour.RLEN);
+    note_layer(cmn, i, equation_of("LAY-5"), "",
+               {{"d", cmn.ZLAY(i) - scour.ZLOC, in::length}, {"L", scour.RLEN, in::length}, {"F", F}});
     carry(i, cmn.ZLAY(i) - T, cmn.ZLAY(i));
     T = cmn.ZBOTM(i);
     cmn.SIGZRES(i) = S + (1 - F) * SIGLOC;
+    note_layer(cmn, i, equation_of("LAY-6"), "before surface loads",
+               {{"sum of g' dz from zl to Z", S, in::stress},
+                {"sl", SIGLOC, in::stress},
+                {"sig'", cmn.SIGZRES(i), in::stress}});
     if (cmn.MIDBOT == 1) carry(i, cmn.ZBOTM(i) - cmn.ZLAY(i), cmn.ZBOTM(i));
   }
 }
@@ -115,9 +132,19 @@ void add_surface_loads(common& cmn, const scour_levels& scour) {
   for (int i = 1; i <= cmn.NUMLAY; ++i) {
     if (!(cmn.ZLAY(i) >= scour.ZLOC)) continue;
     const double ZD = cmn.ZLAY(i) - scour.ZGEN;
-    cmn.DSIGZ(i) =
-        point_load_stress(cmn, ZD) + embankment_stress(cmn, ZD) + circular_load_stress(cmn, ZD) + cmn.SIGSUR;
+    const double points = point_load_stress(cmn, ZD);
+    const double embankment = embankment_stress(cmn, ZD);
+    const double circle = circular_load_stress(cmn, ZD);
+    cmn.DSIGZ(i) = points + embankment + circle + cmn.SIGSUR;
     cmn.SIGZRES(i) = cmn.SIGZRES(i) + cmn.DSIGZ(i);
+    note_layer(cmn, i, equation_of("LAY-7"), "",
+               {{"z", ZD, in::length},
+                {"point loads", points, in::stress},
+                {"embankment", embankment, in::stress},
+                {"circular load", circle, in::stress},
+                {"SIGSUR", cmn.SIGSUR, in::stress},
+                {"dsig", cmn.DSIGZ(i), in::stress},
+                {"sig'", cmn.SIGZRES(i), in::stress}});
   }
 }
 
@@ -126,6 +153,14 @@ bool set_strength(common& cmn, const layer_profile_texts& texts) {
     const int t = cmn.LAYCOD(i).TYP;
     cmn.PHIR(i) = std::atan(std::tan(cmn.PHI(t) / 180 * cmn.PI) / cmn.SFTPHI) / cmn.PI * 180;
     cmn.SURED(i) = ((cmn.SU100(t) - cmn.SU0(t)) / (cmn.UNITM * 100) * cmn.ZLAY(i) + cmn.SU0(t)) / cmn.SFSU;
+    note_layer(cmn, i, equation_of("LAY-9"), "",
+               {{"SU0", cmn.SU0(t), in::stress},
+                {"SU100", cmn.SU100(t), in::stress},
+                {"Z", cmn.ZLAY(i), in::length},
+                {"SFSU", cmn.SFSU},
+                {"Su", cmn.SURED(i), in::stress}});
+    note_layer(cmn, i, equation_of("LAY-10"), "",
+               {{"PHI", cmn.PHI(t), in::degrees}, {"SFTPHI", cmn.SFTPHI}, {"phi", cmn.PHIR(i), in::degrees}});
     if (-cmn.EPS > cmn.SURED(i)) {
       fail(cmn, 1, texts.negative_su, i, t, cmn.SU0(t), cmn.SU100(t), cmn.ZLAY(i), cmn.SURED(i));
       return false;
@@ -145,6 +180,11 @@ void set_depths(common& cmn, const scour_levels& scour) {
   for (int i = 1; i <= cmn.NUMLAY; ++i) {
     const double plain = cmn.ZLAY(i) - scour.ZLOC;
     cmn.DEPTH(i) = cmn.EPS > plain ? plain : std::min(plain + DS, plain * FS);
+    note_layer(cmn, i, equation_of("LAY-8"), cmn.EPS > plain ? "at or above the local scour level" : "",
+               {{"d", plain, in::length},
+                {"h", DS, in::length},
+                {"L", scour.RLEN, in::length},
+                {"X", cmn.DEPTH(i), in::length}});
   }
 }
 
@@ -165,12 +205,21 @@ void set_layer_levels(common& cmn) {
   for (int i = 1; i <= cmn.NUMLAY; ++i) {
     const double T = top_of(cmn, i);
     cmn.ZLAY.append(cmn.MIDBOT == 1 ? cmn.ZBOTM(i) - (cmn.ZBOTM(i) - T) * 0.5 : cmn.ZBOTM(i));
+    note_layer(cmn, i, equation_of("LAY-1"), cmn.MIDBOT == 1 ? "middle" : "bottom",
+               {{"zt", T, in::length}, {"zb", cmn.ZBOTM(i), in::length}, {"Z", cmn.ZLAY(i), in::length}});
   }
 }
 
 bool make_layer_profile(common& cmn, const layer_profile_texts& texts) {
   set_unit_weights(cmn, texts);
   const scour_levels scour = find_scour_levels(cmn);
+  note_layer(cmn, 0, equation_of("LAY-3"), "",
+             {{"SCRGEN", cmn.SCRGEN, in::length},
+              {"SCRLOC", cmn.SCRLOC, in::length},
+              {"SCRSLP", cmn.SCRSLP, in::degrees},
+              {"zg", scour.ZGEN, in::length},
+              {"zl", scour.ZLOC, in::length},
+              {"L", scour.RLEN, in::length}});
   set_overburden(cmn, scour);
   add_surface_loads(cmn, scour);
   if (!set_strength(cmn, texts)) return false;

@@ -21,6 +21,10 @@ void set_layer_levels(common& cmn);
 /// A level above the local scour level has no stress and takes no surface load. On a strength that is
 /// negative, or a layer with both kinds of strength, it prints the message, sets IERR = 1, leaves the later
 /// steps undone and returns false.
+///
+/// Reads ZBOTM, ZLAY, LAYCOD, the soil types (GAMTOT, PHI, SU0, SU100), sea floor, scour, pore pressure,
+/// surface loads, SFTPHI, SFSU and DIAM(1). Writes GAMEFF, SIGZRES, DSIGZ, PHIR, SURED, DEPTH, and the clay
+/// list SUCLAY, DPCLAY, ZLCLAY, NUMCLY.
 bool make_layer_profile(common& cmn, const layer_profile_texts& texts);
 
 }  // namespace tervak

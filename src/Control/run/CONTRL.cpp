@@ -13,6 +13,7 @@
 #include "Control/run/run_files.hpp"
 #include "Control/state/ECHO.hpp"
 #include "Control/state/identification.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "IO/input/READGE.hpp"
 #include "IO/interface_file/TervakRIFWriter.hpp"
@@ -37,8 +38,7 @@ struct identity {
   identity() { version_texts(name, title, version, spare1, spare2, date); }
 };
 
-/// The stages below end the run by returning false.
-constexpr bool ERROR_END = false;
+// The stages return false where the run ends with an error.
 
 void open_log(common& cmn, identity& id) {
   int out = 0;
@@ -56,7 +56,7 @@ bool open_deck(common& cmn) {
   if (cmn.IERR == 0) return true;
   remark(cmn, "(/,' **** SR/CONTRL  FILE TERVAK.INP OPEN PROBLEM  IERR=',i5)", cmn.IERR);
   if (cmn.IERR == 6416) remark(cmn, "(' ABOVE ERROR CODE MEANS FILE TERVAK.INP NOT FOUND')");
-  return ERROR_END;
+  return false;
 }
 
 bool open_results(common& cmn) {
@@ -68,13 +68,13 @@ bool open_results(common& cmn) {
   open_run_file(cmn, cmn.NFF70, "soil_70.fem", "NEW");
   if (cmn.IERR != 0) {
     remark(cmn, "(/,' **** SR/CONTRL  FILE TERVAK.LIS OPEN PROBLEM  IERR=',i5)", cmn.IERR);
-    return ERROR_END;
+    return false;
   }
   // The name is spelled so on purpose: TERVAK.RIF itself is never rotated, the writer replaces it.
   rotate("TEVRAK.RIF");
   if (cmn.IERR != 0) {
     remark(cmn, "(/,' **** SR/CONTRL  FILE TERVAK.RIF OPEN PROBLEM  IERR=',i5)", cmn.IERR);
-    return ERROR_END;
+    return false;
   }
   return true;
 }
@@ -90,7 +90,7 @@ bool import_deck(common& cmn) {
     return true;
   } catch (const std::exception& refusal) {
     fail(cmn, 1, "(A)", refusal.what());
-    return ERROR_END;
+    return false;
   }
 }
 
@@ -112,11 +112,12 @@ void print_heading(common& cmn, identity& id) {
 }
 
 bool read_profile(common& cmn, identity& id, int PROFILECOUNT) {
+  if (cmn.NOTE != nullptr) cmn.NOTE->begin_profile(PROFILECOUNT);
   ResetLayerLists(cmn);
   READGE(cmn, PROFILECOUNT);
   if (cmn.IERR != 0) {
     remark(cmn, "(/,' **** SR/CONTRL  ERROR FROM SR/READGE  IERR=',i5)", cmn.IERR);
-    return ERROR_END;
+    return false;
   }
   cmn.BIGDSP = cmn.DIAM(cmn.NUMDIA) * 1000.0;
   remark(cmn, "(' +++++ INPUT FILE READ , LABEL LINE :',/,1x,a78)", cmn.LABEL);
@@ -149,11 +150,11 @@ bool read_monopile(common& cmn, int PROFILECOUNT) {
 
 bool make_all_curves(common& cmn) {
   for (layer_number NL(1); NL <= cmn.NUMLAY; ++NL)
-    if (!make_curves(cmn, NL)) return ERROR_END;
+    if (!make_curves(cmn, NL)) return false;
   MODIFY(cmn);
   if (cmn.IERR != 0) {
     remark(cmn, "(/,' **** SR/CONTRL  ERROR FROM SR/MODIFY  IERR=',i5)", cmn.IERR);
-    return ERROR_END;
+    return false;
   }
   remark(cmn, "(' +++++ P-Y / T-Z / Q-Z  DATA CALCULATION FINISHED')");
   return true;
@@ -164,7 +165,7 @@ bool print_listing(common& cmn, identity& id) {
   PRINT(cmn, id.version, id.date, id.started);
   if (cmn.IERR != 0) {
     remark(cmn, "(/,' **** SR/CONTRL  ERROR FROM SR/PRINT  IERR=',i5)", cmn.IERR);
-    return ERROR_END;
+    return false;
   }
   remark(cmn, "(' +++++ RESULT FILE TERVAK.LIS HAS BEEN PRINTED')");
   return true;
@@ -172,7 +173,7 @@ bool print_listing(common& cmn, identity& id) {
 
 bool write_results(common& cmn, int PROFILECOUNT) {
   OutputFiles(cmn, PROFILECOUNT);
-  if (cmn.IERR != 0) return ERROR_END;
+  if (cmn.IERR != 0) return false;
   if (cmn.REVISION == 4) remark(cmn, "(' +++++ KESTRA INPUT FILE TERVAK.RIF HAS BEEN GENERATED',/)");
   if (cmn.REVISION == 5)
     remark(cmn, "(' +++++ KESTRA INPUT FILE TERVAK.RIF HAS BEEN GENERATED,','  BORING LABEL= \"',a10,'\"')",
@@ -181,21 +182,21 @@ bool write_results(common& cmn, int PROFILECOUNT) {
 }
 
 bool run_profile(common& cmn, identity& id, int PROFILECOUNT) {
-  if (!read_profile(cmn, id, PROFILECOUNT)) return ERROR_END;
-  if (!build_layers(cmn)) return ERROR_END;
-  if (!read_monopile(cmn, PROFILECOUNT)) return ERROR_END;
+  if (!read_profile(cmn, id, PROFILECOUNT)) return false;
+  if (!build_layers(cmn)) return false;
+  if (!read_monopile(cmn, PROFILECOUNT)) return false;
   if (cmn.REVISION != 4) {
     R5SOIL(cmn);
     R5AXCAP(cmn);
   }
-  if (!make_all_curves(cmn)) return ERROR_END;
-  if (!print_listing(cmn, id)) return ERROR_END;
+  if (!make_all_curves(cmn)) return false;
+  if (!print_listing(cmn, id)) return false;
   return write_results(cmn, PROFILECOUNT);
 }
 
 bool run_all_profiles(common& cmn, identity& id) {
   for (int PROFILECOUNT = 1;; ++PROFILECOUNT) {
-    if (!run_profile(cmn, id, PROFILECOUNT)) return ERROR_END;
+    if (!run_profile(cmn, id, PROFILECOUNT)) return false;
     // A revision 4 profile ends the run, whatever follows it in the deck.
     if (cmn.REVISION == 4) return true;
     if (cmn.PROFILES.GetSoilProfiles().size() <= static_cast<std::size_t>(PROFILECOUNT)) break;
@@ -209,9 +210,9 @@ bool run_all_profiles(common& cmn, identity& id) {
 }
 
 bool run(common& cmn, identity& id) {
-  if (!open_deck(cmn)) return ERROR_END;
-  if (!open_results(cmn)) return ERROR_END;
-  if (!import_deck(cmn)) return ERROR_END;
+  if (!open_deck(cmn)) return false;
+  if (!open_results(cmn)) return false;
+  if (!import_deck(cmn)) return false;
   cmn.RIFWRITER = std::make_shared<Varno::TervakLibrary::IO::TervakRIFWriter>();
   return run_all_profiles(cmn, id);
 }

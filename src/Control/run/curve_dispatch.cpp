@@ -1,5 +1,6 @@
 #include "Control/run/curve_dispatch.hpp"
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "SoilCurves/axial/axial_methods.hpp"
 #include "SoilCurves/axial/QZMISC.hpp"
@@ -13,6 +14,7 @@ namespace {
 /// One family of curves: the member of a layer's codes, its table, who judges the codes from 200 on that have
 /// no row (nobody in P-Y), and its two lines on the run log.
 struct dispatch_row {
+  note_subject::part part;
   int layer_code::*code;
   curve_methods (*methods)();
   curve_routine from_200;
@@ -21,11 +23,14 @@ struct dispatch_row {
 };
 
 constexpr dispatch_row FAMILIES[] = {
-    {&layer_code::PYCODE, py_methods, nullptr, "(/,' **** SR/CONTRL  INVALID P-Y CODE',i5)",
+    {note_subject::part::py, &layer_code::PYCODE, py_methods, nullptr,
+     "(/,' **** SR/CONTRL  INVALID P-Y CODE',i5)",
      "(/,' **** SR/CONTRL  P-Y DATA PROBLEM  IERR,LAYER,PILE=',3i5)"},
-    {&layer_code::TZCODE, tz_methods, TZMISC, "(/,' **** SR/CONTRL  INVALID T-Z CODE',i5)",
+    {note_subject::part::tz, &layer_code::TZCODE, tz_methods, TZMISC,
+     "(/,' **** SR/CONTRL  INVALID T-Z CODE',i5)",
      "(/,' **** SR/CONTRL  T-Z DATA PROBLEM  IERR,LAYER,PILE=',3i5)"},
-    {&layer_code::QZCODE, qz_methods, QZMISC, "(/,' **** SR/CONTRL  INVALID Q-Z CODE',i5)",
+    {note_subject::part::qz, &layer_code::QZCODE, qz_methods, QZMISC,
+     "(/,' **** SR/CONTRL  INVALID Q-Z CODE',i5)",
      "(/,' **** SR/CONTRL  Q-Z DATA PROBLEM  IERR,LAYER,PILE=',3i5)"},
 };
 
@@ -37,7 +42,9 @@ bool make_curve(common& cmn, const dispatch_row& family, layer_number NL, diamet
     remark(cmn, family.invalid_code, code);
     return false;
   }
+  note_about(cmn, {family.part, NL, ND});
   make(cmn, NL, ND, code);
+  if (cmn.IERR == 0) note_curve(cmn, false);
   if (cmn.IERR != 0) remark(cmn, family.data_problem, cmn.IERR, NL, ND);
   return cmn.IERR == 0;
 }

@@ -23,11 +23,11 @@ void set_constants(common& cmn) {
   cmn.EPS = 1.0E-10;
   cmn.MAXTYP = 500;
   cmn.MAXTQZ = 10000;
-  cmn.MAXLAY = 500;
+  cmn.MAXLAY = MOST_LAYERS;
   cmn.MAXDSP = 50;
-  cmn.MAXDIA = 50;
+  cmn.MAXDIA = MOST_DIAMETERS;
   cmn.MAXFRC = 45;
-  cmn.MAXPNT = 29;
+  cmn.MAXPNT = CURVE_POINTS;
 }
 
 void ResetLayerLists(common& cmn) {

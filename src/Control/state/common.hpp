@@ -18,6 +18,11 @@ class IMonoPileDataProvider;
 
 namespace tervak {
 
+/// Limits that are sizes as well: layers, calculation or main; diameters; points of a finished curve.
+inline constexpr int MOST_LAYERS = 500;
+inline constexpr int MOST_DIAMETERS = 50;
+inline constexpr int CURVE_POINTS = 29;
+
 /// What a layer is made of and by which methods its curves are made.
 struct layer_code {
   int TYP = 0;     ///< soil type (revision 4) or main layer (revision 5): index into the soil type table
@@ -31,6 +36,8 @@ struct depth_lookup {
   layer_number NL;
   double YI = 0;
 };
+
+class note_listener;
 
 /// Year, month from 0, day, hour, minute, second of local time.
 using time_array = std::array<int, 6>;
@@ -83,7 +90,6 @@ struct common {
   int JECHO = 0;     ///< echo of the deck, 0 or 1
   int IERR = 0;      ///< the shared error word: 0 = all is well
   int REVISION = 0;  ///< deck revision of the profile, 4 or 5
-  int NOW = 0;       ///< scratch counter
 
   Vrsk::Plin::TervakExchange::TervakMultipleSoilProfiles PROFILES;  ///< the whole imported deck
 
@@ -97,10 +103,10 @@ struct common {
   int MAXPNT = 0;  ///< points of one curve; the origin stands at MIDPNT = MAXPNT / 2 + 1
 
   // Texts
-  fem::fixed_text<80> LABEL;                   ///< heading line of the profile
-  fem::fixed_text<10> BORING;                  ///< boring label (revision 5)
-  std::array<fem::fixed_text<6>, 500> METHOD;  ///< axial method by main layer; METHOD[m - 1]
-  fem::fixed_text<80> PILHDR;                  ///< heading line of the pile node file
+  fem::fixed_text<80> LABEL;                           ///< heading line of the profile
+  fem::fixed_text<10> BORING;                          ///< boring label (revision 5)
+  std::array<fem::fixed_text<6>, MOST_LAYERS> METHOD;  ///< axial method by main layer; METHOD[m - 1]
+  fem::fixed_text<80> PILHDR;                          ///< heading line of the pile node file
 
   // Levels and scour
   double ZSEAFL = 0;  ///< Z of the sea floor
@@ -167,6 +173,8 @@ struct common {
   std::shared_ptr<Varno::TervakLibrary::IO::TervakRIFWriter> RIFWRITER;      ///< one for the whole run
   std::shared_ptr<Varno::TervakLibrary::IO::TervakUnitConverter> CONVERTER;  ///< of the present profile
   std::shared_ptr<Varno::KestraCommonLibrary::CommonData::IMonoPileDataProvider> MONOPILE;  ///< may be null
+
+  note_listener* NOTE = nullptr;  ///< hears every step of the run, see note.hpp; null in `tervak`
 
   [[nodiscard]] int MIDPNT() const { return MAXPNT / 2 + 1; }
 };

@@ -20,7 +20,8 @@ void fail(common& cmn, int ierr, const char* format, const Items&... items) {
 }
 
 /// Ends the run from within a stage. Nobody prints the text: what the engineer needs goes on the run log
-/// first.
+/// first. Line 637 of BUILD5, 415 of NGI11 and 181 of READG2 are fixed: these stops have always borne the
+/// lines of the first source. All others bear their own.
 [[noreturn]] inline void stop(const char* source, int line, const char* text) {
   throw fem::stop_info(source, line, -1, text);
 }

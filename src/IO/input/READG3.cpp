@@ -41,12 +41,10 @@ void read_soil_displacements(common& cmn, const Tervak& profile) {
 
 void READG3(common& cmn, int MIDPNT, const Tervak& profile) {
   read_manual_py(cmn, MIDPNT, profile);
-  if (cmn.IERR == 0) read_py_factors(cmn, profile);
-  if (cmn.IERR == 0) read_manual_tz(cmn, profile);
-  if (cmn.IERR == 0) read_tz_factors(cmn, profile);
-  if (cmn.IERR == 0) read_manual_qz(cmn, profile);
-  if (cmn.IERR == 0) read_qz_factors(cmn, profile);
-  if (cmn.IERR == 0) read_soil_displacements(cmn, profile);
+  if (cmn.IERR != 0) return;
+  run_steps(cmn, profile,
+            {read_py_factors, read_manual_tz, read_tz_factors, read_manual_qz, read_qz_factors,
+             read_soil_displacements});
 }
 
 }  // namespace tervak

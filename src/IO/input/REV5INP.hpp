@@ -11,6 +11,9 @@ namespace tervak {
 ///
 /// On a value that is not accepted: one message on the run log, IERR 4. Throws std::out_of_range where a
 /// section holds fewer records than NUMLAYM.
+///
+/// Reads the profile, CONVERTER, NUMLAYM, GAMWAT and ZSEAFL. Writes the main layers (ZMAIN to PYPARM),
+/// METHOD, the pile (DIAMP, WALL, ZTIP, MATPIL), NUMPIL, and what stage 1 of BUILD5 writes.
 void REV5INP(common& cmn, const Vrsk::Plin::TervakExchange::Tervak& profile);
 
 }  // namespace tervak

@@ -97,10 +97,10 @@ void read_safety_factors(common& cmn, const Tervak& profile) {
 }
 
 void read_diameters(common& cmn, const Tervak& profile) {
-  constexpr int ROOM = 50;
   cmn.NUMDIA = static_cast<int>(profile.GetDiameterCount());
-  if (cmn.NUMDIA > ROOM)
-    return fail(cmn, TOO_MANY_DIAMETERS, "(/,' **** SR/READGE : NUMDIA,MAXDIA=',2i5)", cmn.NUMDIA, ROOM);
+  if (cmn.NUMDIA > MOST_DIAMETERS)
+    return fail(cmn, TOO_MANY_DIAMETERS, "(/,' **** SR/READGE : NUMDIA,MAXDIA=',2i5)", cmn.NUMDIA,
+                MOST_DIAMETERS);
   cmn.DIAM.allocate(cmn.NUMDIA);
   for (diameter_number ND(1); ND <= cmn.NUMDIA; ++ND)
     cmn.DIAM(ND) = cmn.CONVERTER->Length(entry(profile.GetTervakInputData().Diameters, ND));

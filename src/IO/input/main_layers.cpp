@@ -84,7 +84,10 @@ void read_main_layers(common& cmn, const Tervak& profile) {
     if (cmn.IERR != 0) return;
     ZLAST = cmn.ZMAIN(m);
     const bool clay = cmn.SUTOP(m) + cmn.SUBOT(m) > cmn.EPS;
-    clay ? check_clay(cmn, m) : check_sand(cmn, m);
+    if (clay)
+      check_clay(cmn, m);
+    else
+      check_sand(cmn, m);
     if (cmn.IERR != 0) return;
   }
 }

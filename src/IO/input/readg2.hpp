@@ -12,6 +12,10 @@ namespace tervak {
 ///
 /// On a value that is not accepted: one message on the run log, IERR 4. Throws std::out_of_range where a
 /// table holds fewer records than its count.
+///
+/// Reads the profile, CONVERTER, the counts, GAMWAT and ZSEAFL. Writes the surface loads, the soil types
+/// (GAMTOT to TZZRES), ZONINF, RFTZ, NUMTQZ and the depth table; in revision 4 ZBOTM and LAYCOD, in revision
+/// 5 what REV5INP writes.
 void READG2(common& cmn, const Vrsk::Plin::TervakExchange::Tervak& profile);
 
 }  // namespace tervak

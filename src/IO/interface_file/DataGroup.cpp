@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <utility>
 
 namespace IO::Tormal {
@@ -16,6 +17,8 @@ constexpr std::string_view CONTINUATION = "        ";
 
 /// Fills the 16 columns at `field`, the widest number being "-1.00000000E+100".
 void put_field(char* field, double value) {
+  // Compilers differ in the sign of the NaN that they make.
+  if (std::isnan(value)) value = std::numeric_limits<double>::quiet_NaN();
   char* const end = std::to_chars(field, field + FIELD_WIDTH, value, std::chars_format::scientific, 8).ptr;
   if (std::isfinite(value)) {
     *std::find(end - 5, end, 'e') = 'E';

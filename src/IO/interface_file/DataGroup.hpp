@@ -53,7 +53,8 @@ class DGDATE : public DataGroup {
 
 /// Writes a record in one piece: the name, as given, then fields of 16 columns "%16.8E", four a line; further
 /// lines begin with eight blanks. A record with no fields is its name with no line end. Counts and codes are
-/// reals too. A failed stream is not reported: the caller's stream carries its own state.
+/// reals too; a NaN prints without a sign. A failed stream is not reported: the caller's stream carries its
+/// own state.
 void write_record(std::ostream& writer, std::string_view name, std::span<const double> values);
 
 /// The same with the record's text lines behind the fields, as they stand.

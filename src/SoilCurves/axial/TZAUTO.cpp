@@ -2,12 +2,23 @@
 
 #include <algorithm>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/axial/automatic_curve.hpp"
 #include "SoilCurves/axial/depth_table.hpp"
 
 namespace tervak {
+
+namespace {
+
+const equation& step_of(int ICODE) {
+  if (ICODE == 100) return equation_of("TZ-100-3");
+  if (ICODE == 101) return equation_of("TZ-101-1");
+  return ICODE == 102 ? equation_of("TZ-102-1") : equation_of("TZ-103-1");
+}
+
+}  // namespace
 
 void TZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   double TC = 0, TT = 0, R = 0;
@@ -29,6 +40,11 @@ void TZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   const int t = cmn.LAYCOD(NL).TYP;
   const double FR = cmn.EPS > cmn.TRESMX(t) ? 1.0 : cmn.TRESMX(t);
   const double ZR = cmn.EPS > cmn.TZZRES(t) ? D * sp(0.01f) : cmn.TZZRES(t);
+  note(cmn, equation_of("TZ-MAX-1"),
+       {{"SFSKF", cmn.SFSKF}, {"tc", TMC, in::stress}, {"tt", TMT, in::stress}});
+  note(cmn, equation_of("TZ-100-1"), {{"TZDRAT", R}, {"D", D, in::length}, {"zc", ZC, in::length}});
+  note(cmn, equation_of("TZ-100-2"), {{"zt", ZT, in::length}});
+  note(cmn, step_of(ICODE), {{"rt", FR}, {"zr", ZR, in::length}});
   lay_automatic_curve(tz_curves(cmn), NL, ND, ICODE, cmn.BIGDSP, {TMC, ZC, FR * TMC, ZR + ZC},
                       {TMT, ZT, FR * TMT, ZT + ZR});
 }

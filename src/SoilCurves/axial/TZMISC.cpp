@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/axial/depth_table.hpp"
@@ -25,6 +26,8 @@ void lay_sides(common& cmn, layer_number NL, diameter_number ND, const skin_fric
 }
 
 void zero_curve(common& cmn, layer_number NL, diameter_number ND) {
+  note(cmn, equation_of("TZ-MAX-2"), "no shear modulus: above the local scour level",
+       {{"t", 0.0, in::stress}});
   const double Z1 = cmn.DIAM(ND) * sp(0.01f);
   const curve_side side = {{0.0, Z1}, {0.0, Z1 + cmn.BIGDSP}};
   lay_curve(tz_curves(cmn), NL, ND, side, side);
@@ -37,6 +40,7 @@ void hyperbola(common& cmn, layer_number NL, diameter_number ND, const skin_fric
   const double G = skin.G;
   const double FR = cmn.EPS > cmn.TRESMX(t) ? 1.0 : cmn.TRESMX(t);
   const double ZR = cmn.EPS > cmn.TZZRES(t) ? D * sp(0.01f) : cmn.TZZRES(t);
+  note(cmn, equation_of("TZ-200-3"), {{"rt", FR}, {"zr", ZR, in::length}});
   lay_sides(cmn, NL, ND, skin, [&](double TM) {
     curve_side side;
     for (const double ratio : RATIOS) {
@@ -48,6 +52,14 @@ void hyperbola(common& cmn, layer_number NL, diameter_number ND, const skin_fric
       }
       side.push_back({T, Z});
     }
+    const bool steep = !(TM > cmn.EPS && G > TM);
+    note(cmn, steep ? equation_of("TZ-200-2") : equation_of("TZ-200-1"), steep ? "tmax = 0 or G <= tmax" : "",
+         {{"D", D, in::length},
+          {"G", G, in::stress},
+          {"tmax", TM, in::stress},
+          {"rm", cmn.ZONINF},
+          {"rf", cmn.RFTZ},
+          {"z", side.back().displacement, in::length}});
     side.push_back({FR * TM, side.back().displacement + ZR});
     side.push_back({FR * TM, side.back().displacement + cmn.BIGDSP});
     return side;
@@ -69,6 +81,8 @@ void api_clay(common& cmn, layer_number NL, diameter_number ND, const skin_frict
   const double D = cmn.DIAM(ND);
   const double FR = std::min(cmn.EPS > cmn.TRESMX(t) ? sp(0.8f) : cmn.TRESMX(t), 1.0);
   const double ZR = cmn.TZZRES(t);
+  note(cmn, equation_of("TZ-API-1"), "clay, phi = 0", {{"D", D, in::length}});
+  note(cmn, equation_of("TZ-API-2"), {{"rt", FR}, {"zr", ZR, in::length}});
   lay_sides(cmn, NL, ND, skin, [&](double TM) {
     curve_side side = api_clay_rise(TM, D);
     side.push_back({FR * TM, sp(0.02f) * D + ZR});
@@ -82,6 +96,7 @@ void api_clay(common& cmn, layer_number NL, diameter_number ND, const skin_frict
 void api_sand_214(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const double D = cmn.DIAM(ND);
   const double ZR = cmn.TZZRES(cmn.LAYCOD(NL).TYP);
+  note(cmn, equation_of("TZ-214-S1"), "sand, phi > 0", {{"D", D, in::length}});
   lay_sides(cmn, NL, ND, skin, [&](double TM) {
     curve_side side = api_clay_rise(TM, D);
     side.push_back({TM, sp(0.02f) * D});
@@ -93,11 +108,15 @@ void api_sand_214(common& cmn, layer_number NL, diameter_number ND, const skin_f
 /// Full friction at 2.54 mm. The ratio of atmosphere and water weight is about 10.13 m in any unit of length.
 void api_sand_293(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const double ZE = cmn.ATMPRS / cmn.GAMWAT * sp(0.0002507f);
+  note(cmn, equation_of("TZ-293-S1"), "sand, phi > 0",
+       {{"ATMPRS", cmn.ATMPRS, in::stress}, {"GAMWAT", cmn.GAMWAT, in::weight}, {"ze", ZE, in::length}});
+  note(cmn, equation_of("TZ-293-S2"), {{"tc", skin.TMC, in::stress}, {"tt", skin.TMT, in::stress}});
   lay_sides(cmn, NL, ND, skin, [&](double TM) { return curve_side{{TM, ZE}, {TM, ZE + cmn.BIGDSP}}; });
 }
 
 void carbonate_sand(common& cmn, layer_number NL, diameter_number ND, const skin_friction& skin) {
   const double Z1 = cmn.DIAM(ND) * sp(0.01f);
+  note(cmn, equation_of("TZ-588-1"), {{"0.01 D", Z1, in::length}});
   lay_sides(cmn, NL, ND, skin, [&](double TM) {
     return curve_side{{TM, Z1}, {0.75 * TM, 10.0 * Z1}, {0.75 * TM, 10.0 * Z1 + cmn.BIGDSP}};
   });
@@ -128,6 +147,12 @@ void TZMISC(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
     return fail(cmn, 1, "(/,' **** SR/TZMISC : SOIL SHEAR MODULUS  NL,ND,G=',2i5,e11.4)", NL, ND, G);
 
   const skin_friction skin = {TC / cmn.SFSKF, TT / cmn.SFSKF, G};
+  note(cmn, equation_of("TZ-MAX-1"),
+       {{"ts", TC, in::stress},
+        {"ts", TT, in::stress},
+        {"SFSKF", cmn.SFSKF},
+        {"tc", skin.TMC, in::stress},
+        {"tt", skin.TMT, in::stress}});
   if (ICODE == 200) return hyperbola(cmn, NL, ND, skin);
   if (ICODE == 293 || ICODE == 214) {
     if (is_clay(cmn, NL)) return api_clay(cmn, NL, ND, skin);

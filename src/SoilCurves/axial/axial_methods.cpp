@@ -17,6 +17,7 @@ curve_methods tz_methods() {
       {102, "AUTO-2", both, TZAUTO},        {103, "AUTO-3", both, TZAUTO}, {200, "KRAFT ", both, TZMISC},
       {214, "API-2014", both, TZMISC},      {293, "API-93", both, TZMISC}, {588, "????? ", only_4, TZMISC},
   };
+  static_assert(each_code_once(METHODS));
   return METHODS;
 }
 
@@ -26,6 +27,7 @@ curve_methods qz_methods() {
       {102, "AUTO-2", both, QZAUTO},        {103, "AUTO-3", both, QZAUTO}, {200, "ELAPLA", both, QZMISC},
       {214, "API-2014", both, QZMISC},      {293, "API-93", both, QZMISC},
   };
+  static_assert(each_code_once(METHODS));
   return METHODS;
 }
 

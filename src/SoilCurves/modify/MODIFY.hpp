@@ -13,6 +13,9 @@ namespace tervak {
 /// the origin, twice. QZFNEG is 0 unless the deck says otherwise: a tip takes no tension. Filled-out points
 /// repeat the end stress in steps of 1.0 of the run's length unit.
 /// IERR 1: a gap pushes a P-Y curve past MAXPNT points, or displacements that do not rise.
+///
+/// Reads ZLAY and the scour for the dead layers, PYMOD, TZMOD and QZMOD. Writes the three families of curves:
+/// stresses, displacements and numbers of points.
 void MODIFY(common& cmn);
 
 }  // namespace tervak

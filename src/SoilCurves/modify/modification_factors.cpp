@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 
 namespace tervak {
@@ -21,6 +22,7 @@ void scale_far_points(const curve_family& family, diameter_number ND, layer_numb
 
 /// Moves each branch one slot outward and by the gap: a stretch of no resistance opens about the origin.
 bool open_gap(common& cmn, diameter_number ND, layer_number NL, double PYGAP) {
+  note(cmn, equation_of("MOD-PY-2"), "gap", {{"PYGAP", PYGAP, in::length}});
   const int O = cmn.NPYORG(ND, NL);
   const int H = cmn.NPYPNT(ND, NL) / 2;
   cmn.NPYPNT(ND, NL) += 2;
@@ -48,6 +50,8 @@ void limit_stress(common& cmn, diameter_number ND, layer_number NL, double PYFEN
   double PMAX = 0.0;
   for (int I = 1; I <= cmn.MAXPNT; ++I) PMAX = std::max(PMAX, cmn.PYSTR(I, ND, NL));
   const double PLIM = PMAX * PYFEND;
+  note(cmn, equation_of("MOD-PY-3"), "stress limited",
+       {{"p", PMAX, in::stress}, {"PYFEND", PYFEND}, {"p", PLIM, in::stress}});
   for (int I = 1; I <= cmn.MAXPNT; ++I) {
     double& P = cmn.PYSTR(I, ND, NL);
     if (P > PLIM)
@@ -61,12 +65,14 @@ void limit_stress(common& cmn, diameter_number ND, layer_number NL, double PYFEN
 
 bool apply_py_factors(common& cmn, diameter_number ND, layer_number NL) {
   const auto [PYFSTR, PYFDSP, PYGAP, PYLIMS, PYFEND, PYDEND] = cmn.PYMOD(ND, NL);
+  note(cmn, equation_of("MOD-PY-1"), {{"PYFSTR", PYFSTR}, {"PYFDSP", PYFDSP}});
   for (int I = 1; I <= cmn.MAXPNT; ++I) {
     cmn.PYSTR(I, ND, NL) = PYFSTR * cmn.PYSTR(I, ND, NL);
     cmn.PYDSP(I, ND, NL) = PYFDSP * cmn.PYDSP(I, ND, NL);
   }
   if (!(PYGAP < cmn.EPS) && !open_gap(cmn, ND, NL, PYGAP)) return false;
   if (!(PYLIMS < cmn.EPS) && !(PYLIMS > 1.0 - cmn.EPS)) limit_stress(cmn, ND, NL, PYFEND);
+  note(cmn, equation_of("MOD-PY-4"), {{"PYFEND", PYFEND}, {"PYDEND", PYDEND}});
   scale_far_points(py_curves(cmn), ND, NL, PYFEND, PYDEND);
   return true;
 }

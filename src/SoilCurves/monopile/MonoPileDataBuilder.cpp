@@ -9,7 +9,7 @@ namespace {
 
 using namespace Vrsk::Plin::TervakExchange;
 
-constexpr std::size_t SLOTS = 29;
+constexpr std::size_t SLOTS = tervak::CURVE_POINTS;
 constexpr std::size_t MIDDLE = SLOTS / 2;  // counted from 0
 
 /// Lays the given points out over the 29 slots.

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "Control/state/note.hpp"
 #include "SoilCurves/py/py_frame.hpp"
 #include "SoilCurves/py/soft_clay_curve.hpp"
 #include "SoilCurves/py/stiff_clay_curve.hpp"
@@ -29,7 +30,13 @@ void sand(common& cmn, const py_layer& layer) {
   const double KSOIL = cmn.KSOILM(layer.TYP);
   const auto KV = KSOIL > ZTOL ? std::optional(KSOIL / cmn.GAMWAT)
                                : table_value(cmn, METHOD, ANGLES, MODULI, cmn.PHIR(layer.NL));
-  if (KV) tanh_sand_curve(cmn, layer, *PU, *KV, ZTOL);
+  if (!KV) return;
+  note(cmn, equation_of("PY-214-S1"), KSOIL > ZTOL ? "KSOILM of the deck" : "table of code 214",
+       {{"phi", cmn.PHIR(layer.NL), in::degrees},
+        {"KSOILM", KSOIL, in::weight},
+        {"gw", cmn.GAMWAT, in::weight},
+        {"kv", *KV}});
+  tanh_sand_curve(cmn, layer, *PU, *KV, ZTOL);
 }
 
 }  // namespace
@@ -37,8 +44,8 @@ void sand(common& cmn, const py_layer& layer) {
 void API14(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, ZTOL);
   if (!layer) return;
-  if (cmn.PHIR(NL) > ZTOL) return sand(cmn, *layer);
-  if (cmn.SURED(NL) > cmn.SUSTIF) return stiff_clay_curve(cmn, *layer, METHOD);
+  if (is_sand(cmn, *layer, ZTOL)) return sand(cmn, *layer);
+  if (is_stiff_clay(cmn, *layer)) return stiff_clay_curve(cmn, *layer, METHOD);
   if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
     soft_clay_curve_7(cmn, *layer, *PU);
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/py/py_frame.hpp"
@@ -47,7 +48,11 @@ void store_sand(common& cmn, const py_layer& layer, double K, const curve_point&
   const double EXPN = parabola_exponent(cmn, layer, M, U);
   const double C = std::pow(M.displacement, 1.0 / EXPN);
   const double YK = std::pow(D * M.stress / (H * K * C), EXPN / (EXPN - 1.0));
+  note(cmn, equation_of("PY-284-S3"), {{"n", EXPN}});
+  note(cmn, equation_of("PY-284-S4"), {{"X", H, in::length}, {"D", D, in::length}, {"yK", YK, in::length}});
   const curve_point end{U.stress, cmn.BIGDSP};
+  note(cmn, equation_of("PY-284-S5"), YK > M.displacement ? "yK > yM, straight to M" : "line, parabola, line",
+       {{"yM", M.displacement, in::length}, {"pU", U.stress, in::stress}});
   if (YK > M.displacement) return store_py(cmn, layer.NL, layer.ND, {M, U, end});
   const auto parabola = [&](double y) { return curve_point{std::pow(y, 1.0 / EXPN) * M.stress / C, y}; };
   const double DY = (M.displacement - YK) / 3.0;
@@ -68,9 +73,19 @@ void sand(common& cmn, const py_layer& layer) {
   double K = 543.0;
   if (PHI > 30.0) K = 1628.0;
   if (PHI > 36.0) K = 3393.0;
+  const double KV = K;
   K = K * cmn.GAMWAT;
+  note(cmn, equation_of("PY-284-S1"),
+       {{"phi", PHI, in::degrees}, {"kv", KV}, {"gw", cmn.GAMWAT, in::weight}, {"k", K, in::weight}});
   const double PUU = *AFACT * *PU;
   const double PM = PUU * *BFACT / *AFACT;
+  note(cmn, equation_of("PY-284-S2"),
+       {{"X / D", layer.H / layer.D},
+        {"A", *AFACT},
+        {"B", *BFACT},
+        {"pu", *PU, in::stress},
+        {"pM", PM, in::stress},
+        {"pU", PUU, in::stress}});
   store_sand(cmn, layer, K, {PM, layer.D / 60.0}, {PUU, layer.D * 3.0 / 80.0});
 }
 
@@ -79,8 +94,8 @@ void sand(common& cmn, const py_layer& layer) {
 void API84(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
-  if (cmn.PHIR(NL) > cmn.EPS) return sand(cmn, *layer);
-  if (cmn.SURED(NL) > cmn.SUSTIF) return stiff_clay_curve(cmn, *layer, METHOD);
+  if (is_sand(cmn, *layer, cmn.EPS)) return sand(cmn, *layer);
+  if (is_stiff_clay(cmn, *layer)) return stiff_clay_curve(cmn, *layer, METHOD);
   if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
     soft_clay_curve_5(cmn, *layer, *PU);
 }

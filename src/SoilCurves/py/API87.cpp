@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/py/py_frame.hpp"
 #include "SoilCurves/py/soft_clay_curve.hpp"
@@ -29,12 +30,22 @@ void carbonate_sand_curve(common& cmn, const py_layer& layer) {
   const double S3 = std::pow(cmn.SIGZRES(layer.NL), sp(0.33333334f));
   const double Q3 = std::pow(QC, sp(0.6666667f));
   const double RF = layer.ICYCL == 1 ? load_factor(layer, 1) / load_factor(layer, 0) : 1.0;
+  note(cmn, equation_of("PY-588-S1"),
+       {{"APIJM", cmn.APIJ(layer.TYP), in::weight},
+        {"X", layer.H, in::length},
+        {"OCR", cmn.OCR(layer.TYP), in::stress},
+        {"qc", QC, in::stress}});
+  note(cmn, equation_of("PY-588-S2"), layer.ICYCL == 1 ? "cyclic" : "static", {{"r", RF}});
   curve_side branch;
   double Y = D * sp(0.002f);
   for (int i = 1; i <= 10; ++i) {
     branch.push_back({std::min(QC, 1.5 * S3 * Q3 * RF * std::pow(Y / D, 0.5)), Y});
     Y = Y * 1.75;
   }
+  note(cmn, equation_of("PY-588-S3"), branch.back().stress < QC ? "" : "qc reached",
+       {{"sig'", cmn.SIGZRES(layer.NL), in::stress},
+        {"y", branch.back().displacement, in::length},
+        {"p", branch.back().stress, in::stress}});
   store_py(cmn, layer.NL, layer.ND, branch);
 }
 
@@ -52,8 +63,8 @@ void sand(common& cmn, const py_layer& layer) {
 void API87(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, ZTOL);
   if (!layer) return;
-  if (cmn.PHIR(NL) > ZTOL) return sand(cmn, *layer);
-  if (cmn.SURED(NL) > cmn.SUSTIF) return stiff_clay_curve(cmn, *layer, METHOD);
+  if (is_sand(cmn, *layer, ZTOL)) return sand(cmn, *layer);
+  if (is_stiff_clay(cmn, *layer)) return stiff_clay_curve(cmn, *layer, METHOD);
   if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
     soft_clay_curve_5(cmn, *layer, *PU);
 }

@@ -2,6 +2,8 @@
 
 namespace tervak {
 
+class note_listener;
+
 /// Ultimate lateral resistance PULT of a pile as a stress: resistance per unit length over the diameter.
 ///
 /// Sand: API RP 2A, 6.8.6, the lesser of the wedge near the surface and the flow at depth, in closed form
@@ -12,9 +14,10 @@ namespace tervak {
 /// vertical stress; GAM mean effective unit weight above; ICYCL 0 or 1, only checked. Any consistent units.
 /// Both sand terms go with SIGZ, not with GAM * DEPTH, so surface loads and scour relief reach them.
 ///
+/// NOTE, where not null, hears the steps.
 /// IERR, where PULT stays 0: 1 no strength, 2 DEPTH, 3 negative SIGZ, 4 DIAM, 5 ICYCL, 6 negative GAM,
 /// 7 IYEAR. The highest code that applies is returned.
 void APILAT(int IYEAR, double SU, double APIJ, double PHI, double DEPTH, double SIGZ, double GAM, double DIAM,
-            int ICYCL, double& PULT, int& IERR);
+            int ICYCL, double& PULT, int& IERR, note_listener* NOTE = nullptr);
 
 }  // namespace tervak

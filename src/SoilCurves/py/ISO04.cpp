@@ -1,5 +1,6 @@
 #include "SoilCurves/py/ISO04.hpp"
 
+#include "Control/state/note.hpp"
 #include "SoilCurves/py/py_frame.hpp"
 #include "SoilCurves/py/soft_clay_curve.hpp"
 #include "SoilCurves/py/stiff_clay_curve.hpp"
@@ -26,10 +27,15 @@ void sand(common& cmn, const py_layer& layer) {
 void clay(common& cmn, const py_layer& layer) {
   const double SU = cmn.SURED(layer.NL);
   const bool modified = layer.PYCODE == 570;
-  if (SU > cmn.SUSTIF && !modified) return stiff_clay_curve(cmn, layer, METHOD);
+  if (!modified && is_stiff_clay(cmn, layer)) return stiff_clay_curve(cmn, layer, METHOD);
   const auto PU = ultimate_resistance(cmn, layer, METHOD, SU);
   if (!PU) return;
-  if (modified && !(SU < cmn.SUSTIF) && layer.ICYCL == 1) return modified_matlock_curve(cmn, layer, *PU);
+  const bool changed = modified && !(SU < cmn.SUSTIF) && layer.ICYCL == 1;
+  if (modified)
+    note(cmn, equation_of("PY-570-C1"),
+         changed ? "modified curve, cyclic and Su >= SUSTIF" : "soft clay curve of seven points",
+         {{"Su", SU, in::stress}, {"SUSTIF", cmn.SUSTIF, in::stress}});
+  if (changed) return modified_matlock_curve(cmn, layer, *PU);
   soft_clay_curve_7(cmn, layer, *PU);
 }
 
@@ -38,7 +44,7 @@ void clay(common& cmn, const py_layer& layer) {
 void ISO04(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
-  if (cmn.PHIR(NL) > cmn.EPS) return sand(cmn, *layer);
+  if (is_sand(cmn, *layer, cmn.EPS)) return sand(cmn, *layer);
   clay(cmn, *layer);
 }
 

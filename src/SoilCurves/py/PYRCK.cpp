@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Control/state/Interpolate.hpp"
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 
 namespace tervak {
@@ -62,13 +63,20 @@ struct clay_values {
   double PC, AFACT, STFK, EPSC;
 };
 
-void static_curve(const clay_values& clay, double DIAM, vector1<double>& P, vector1<double>& Y) {
+void static_curve(const common& cmn, const clay_values& clay, double DIAM, vector1<double>& P,
+                  vector1<double>& Y) {
   const auto [PC, AFACT, STFK, EPSC] = clay;
   const double YC = EPSC * DIAM;
   const double YA = YC * AFACT;
   const double PH = PC * 0.5;
   const double root = PH / STFK / std::sqrt(YC);
   const double YI = root * root;
+  note(cmn, equation_of("PY-STIFF-7"), {{"A", AFACT}, {"yc", YC, in::metre}, {"ya", YA, in::metre}});
+  note(cmn, equation_of("PY-STIFF-8"),
+       YI > YA ? "parabola alone, the two do not meet up to ya" : "initial line, then parabola",
+       {{"ks X", STFK, in::kilopascal},
+        {"0.5 Pc", PH, in::kn_per_metre},
+        {"(0.5 Pc / (ks X))^2 / yc", YI, in::metre}});
   Y(1) = P(1) = 0.0;
   double y = 0.0;
   for (int i = 2; i <= 4; ++i) {
@@ -91,6 +99,8 @@ void static_curve(const clay_values& clay, double DIAM, vector1<double>& P, vect
   if (P(10) < 0.0) P(10) = 0.0;
   Y(11) = DIAM * 1000.0;
   P(11) = P(10);
+  note(cmn, equation_of("PY-STIFF-9"), {{"y", Y(8), in::metre}, {"P", P(8), in::kn_per_metre}});
+  note(cmn, equation_of("PY-STIFF-10"), {{"18 ya", Y(10), in::metre}, {"P", P(10), in::kn_per_metre}});
 }
 
 void cyclic_curve(common& cmn, const clay_values& clay, double BFACT, double DIAM, int ITRACE,
@@ -106,6 +116,12 @@ void cyclic_curve(common& cmn, const clay_values& clay, double BFACT, double DIA
   if (ITRACE != 0)
     remark(cmn, "('   B-FACT     STFK       BPC        YC         YP',9x,'Y5',/,1p,6e11.3)", BFACT, STFK, BPC,
            YC, YP, Y5);
+  note(cmn, equation_of("PY-STIFF-7"), {{"A", clay.AFACT}, {"yc", YC, in::metre}, {"yp", YP, in::metre}});
+  note(cmn, equation_of("PY-STIFF-11"), CUT ? "at most the initial line" : "power law alone",
+       {{"B", BFACT},
+        {"ks X", STFK, in::kilopascal},
+        {"B Pc", BPC, in::kn_per_metre},
+        {"0.45 yp ks X", Y5 * STFK, in::kn_per_metre}});
   const auto power_law = [&](double y) { return (1.0 - std::pow(std::abs(y - Y5) / Y5, 2.5)) * BPC; };
   for (int i = 1; i <= 5; ++i) {
     const double y = (i - 1) * DY;
@@ -127,6 +143,7 @@ void cyclic_curve(common& cmn, const clay_values& clay, double BFACT, double DIA
   if (P(10) < 0.0) P(10) = 0.0;
   Y(11) = DIAM * 1000.0;
   P(11) = P(10);
+  note(cmn, equation_of("PY-STIFF-12"), {{"1.8 yp", Y(10), in::metre}, {"P", P(10), in::kn_per_metre}});
 }
 
 }  // namespace
@@ -164,13 +181,25 @@ void PYStiffClay(common& cmn, int NZ, const vector1<double>& ZTAB, const vector1
   const double AFACT = factor(A_FACTOR, H / DIAM, IERR);
   if (IERR != 0) return;
   const double STFK = modulus(H, SU5D);
+  note(cmn, equation_of("PY-STIFF-3"),
+       {{"cm", SUAVR, in::kilopascal}, {"cX", SUZZ, in::kilopascal}, {"c5", SU5D, in::kilopascal}});
+  note(cmn, equation_of("PY-STIFF-4"),
+       MODE == 2 ? "flow at depth, 11 cX D" : "wedge near the surface, 2 cm D + ...",
+       {{"D", DIAM, in::metre},
+        {"gam", GAM, in::kn_per_m3},
+        {"X", H, in::metre},
+        {"2 cm D + gam D X + 2.83 cm X", PC1, in::kn_per_metre},
+        {"11 cX D", PC2, in::kn_per_metre},
+        {"Pc", PC, in::kn_per_metre}});
+  note(cmn, equation_of("PY-STIFF-5"), ICYCL == 0 ? "static" : "cyclic", {{"c5", SU5D, in::kilopascal}});
   // The modulus goes with the mean near the surface, the strain with the strength at depth.
   if (MODE == 2 && SUZZ > SU5D) SU5D = SUZZ;
   const double EPSC = strain(SU5D);
   if (ITRACE != 0) remark(cmn, "('   A-FACT     STFK       EPSC',/,1p,3e11.3)", AFACT, STFK, EPSC);
 
+  note(cmn, equation_of("PY-STIFF-6"), {{"c", SU5D, in::kilopascal}, {"eps50", EPSC}});
   const clay_values clay{PC, AFACT, STFK, EPSC};
-  if (ICYCL == 0) return static_curve(clay, DIAM, P, Y);
+  if (ICYCL == 0) return static_curve(cmn, clay, DIAM, P, Y);
   const double BFACT = factor(B_FACTOR, H / DIAM, IERR);
   if (IERR != 0) return;
   cyclic_curve(cmn, clay, BFACT, DIAM, ITRACE, P, Y);

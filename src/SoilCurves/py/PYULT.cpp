@@ -2,11 +2,12 @@
 
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 
 namespace tervak {
 
-void PYULT(double PHI, double SU, double DEPTH, double SIGZ, double DIAM, double& PULT) {
+void PYULT(double PHI, double SU, double DEPTH, double SIGZ, double DIAM, double& PULT, note_listener* NOTE) {
   const double PI4 = 4 * std::atan(1.0);
   const double T = sp(1.0E-6f);
   const double S = std::sin(PHI);
@@ -36,6 +37,13 @@ void PYULT(double PHI, double SU, double DEPTH, double SIGZ, double DIAM, double
   const double AC = 2.0 * KC0 / W2 * S3;
   const double DD = DEPTH / DIAM;
   PULT = (AC * KCI * DD + KC0) / (AC * DD + 1.0) * SU + (AQ * KQI * DD + KQ0) / (AQ * DD + 1.0) * SIGZ;
+  note(NOTE, equation_of("PY-EARTH-1"), "", {{"KQ0", KQ0}});
+  note(NOTE, equation_of("PY-EARTH-2"), ZERO ? "phi = 0" : "", {{"KC0", KC0}});
+  note(NOTE, equation_of("PY-EARTH-3"), "", {{"Nc", NC}});
+  note(NOTE, equation_of("PY-EARTH-4"), "", {{"KCI", KCI}, {"KQI", KQI}});
+  note(NOTE, equation_of("PY-EARTH-5"), "", {{"aq", AQ}, {"ac", AC}});
+  note(NOTE, equation_of("PY-EARTH-6"), "",
+       {{"X/D", DD}, {"Su", SU, in::stress}, {"sig'", SIGZ, in::stress}, {"pu", PULT, in::stress}});
 }
 
 }  // namespace tervak

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/py/py_frame.hpp"
@@ -22,7 +23,7 @@ struct shape {
 std::optional<double> lateral(common& cmn, const py_layer& layer, double SU, double OCR) {
   double PU = 0.0;
   VRKLAT(cmn.PHIR(layer.NL), SU, layer.H, cmn.SIGZRES(layer.NL), layer.D, layer.GAM, layer.ICYCL, OCR, PU,
-         cmn.IERR);
+         cmn.IERR, cmn.NOTE);
   if (cmn.IERR == 0) return PU;
   // The one code fills the first of the three fields; the other two stay empty.
   fail(cmn, 1, "(/,' **** SR/VRK80 : ERROR FROM SR/VRKLAT  NL,ND,IERR=',3i5)", cmn.IERR);
@@ -36,13 +37,24 @@ std::optional<shape> sand(common& cmn, const py_layer& layer) {
   double K = 500.0;
   if (PHI > 30.0) K = 1200.0;
   if (PHI > 36.0) K = 1800.0;
-  return shape{*PU, K * cmn.GAMWAT * layer.H / layer.D, sp(0.04f), sp(0.1f), 1.0};
+  const shape s{*PU, K * cmn.GAMWAT * layer.H / layer.D, sp(0.04f), sp(0.1f), 1.0};
+  note(cmn, equation_of("PY-380-S2"),
+       {{"phi", PHI, in::degrees},
+        {"kv", K},
+        {"gw", cmn.GAMWAT, in::weight},
+        {"E", s.E, in::weight},
+        {"A", s.A},
+        {"B", s.B},
+        {"res", s.RES}});
+  return s;
 }
 
 std::optional<shape> clay(common& cmn, const py_layer& layer) {
   const double SU = cmn.SURED(layer.NL);
   double R = cmn.REVISION == 4 ? cmn.OCR(layer.TYP) : 0.0;
   if (R < cmn.EPS) R = SU * 4.0 / std::max(cmn.EPS, cmn.SIGZRES(layer.NL));
+  note(cmn, equation_of("PY-380-C1"),
+       {{"Su", SU, in::stress}, {"sig'", cmn.SIGZRES(layer.NL), in::stress}, {"R", R}});
   const auto PU = lateral(cmn, layer, SU, R);
   if (!PU) return std::nullopt;
   const bool over = !(R < sp(1.01f));
@@ -59,12 +71,17 @@ std::optional<shape> clay(common& cmn, const py_layer& layer) {
   const double E = C * *PU / (std::pow(EPS50, 0.25) * layer.D);
   const double F = R > sp(1.01f) ? 5.0 : 10.0;  // at exactly 1.01 the table counts as over, this does not
   const double RES = std::min(0.5, layer.H * 0.25 / (layer.D * F) + 0.25);
+  note(cmn, equation_of("PY-380-C3"), over ? "R >= 1.01" : "R < 1.01",
+       {{"eps50", EPS50}, {"D", layer.D, in::length}, {"C", C}, {"E", E, in::weight}, {"A", A}, {"B", B}});
+  note(cmn, equation_of("PY-380-C4"), {{"X", layer.H, in::length}, {"F", F}, {"res", RES}});
   return shape{*PU, E, A, B, RES};
 }
 
 void store(common& cmn, const py_layer& layer, const shape& s) {
   const double D = layer.D;
   const double T = 1.0 - s.PU / (s.E * s.A * D);
+  note(cmn, equation_of("PY-380-H1"), T < cmn.EPS ? "straight to A D, T is not above zero" : "hyperbola",
+       {{"T", T}, {"A D", s.A * D, in::length}, {"pu", s.PU, in::stress}});
   curve_side branch;
   if (!(T < cmn.EPS)) {
     const double PH = s.PU / T;
@@ -86,7 +103,8 @@ void store(common& cmn, const py_layer& layer, const shape& s) {
 void VRK80(common& cmn, layer_number NL, diameter_number ND) {
   const auto layer = open_py(cmn, NL, ND, cmn.EPS);
   if (!layer) return;
-  if (const auto s = cmn.PHIR(NL) > cmn.EPS ? sand(cmn, *layer) : clay(cmn, *layer)) store(cmn, *layer, *s);
+  if (const auto s = is_sand(cmn, *layer, cmn.EPS) ? sand(cmn, *layer) : clay(cmn, *layer))
+    store(cmn, *layer, *s);
 }
 
 }  // namespace tervak

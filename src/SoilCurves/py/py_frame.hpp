@@ -32,6 +32,12 @@ struct py_method {
 /// returned. Cyclic is a matter of level alone: a layer strictly above ZCYCL is cyclic.
 std::optional<py_layer> open_py(common& cmn, layer_number NL, diameter_number ND, double ZTOL);
 
+/// Whether the layer is sand: its friction angle is above the method's zero limit.
+[[nodiscard]] bool is_sand(const common& cmn, const py_layer& layer, double ZTOL);
+
+/// Whether a clay is stiff: its strength is above SUSTIF.
+[[nodiscard]] bool is_stiff_clay(const common& cmn, const py_layer& layer);
+
 /// A published table at XI. On failure prints the method's message, sets IERR to 1 and returns nothing.
 std::optional<double> table_value(common& cmn, const py_method& method, table_view X, table_view Y,
                                   double XI);

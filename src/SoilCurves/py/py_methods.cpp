@@ -34,6 +34,7 @@ curve_methods py_methods() {
        "(/,' **** SR/REV5INP : Non-accepted P-Y code. Layer,code=',2i5,/,' This is a sand layer, p-y code 600 (NGI-2011',') is for soft clay only')",
        by_layer<NGI11>},
   };
+  static_assert(each_code_once(METHODS));
   return METHODS;
 }
 

@@ -1,5 +1,6 @@
 #include "SoilCurves/py/stiff_clay_curve.hpp"
 
+#include "Control/state/note.hpp"
 #include "Control/state/report.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/py/PYRCK.hpp"
@@ -10,6 +11,8 @@ namespace tervak {
 void stiff_clay_curve(common& cmn, const py_layer& layer, const py_method& method) {
   const double FL = sp(10.13f) / (cmn.ATMPRS / cmn.GAMWAT);
   const double FS = sp(101.3f) / cmn.ATMPRS;
+  note(cmn, equation_of("PY-STIFF-2"),
+       {{"gw", cmn.GAMWAT, in::weight}, {"pa", cmn.ATMPRS, in::stress}, {"fl", FL}, {"fs", FS}});
   for (int n = 1; n <= cmn.NUMCLY; ++n) {
     cmn.SUCLAY(n) = FS * cmn.SUCLAY(n);
     cmn.DPCLAY(n) = FL * cmn.DPCLAY(n);
@@ -29,6 +32,10 @@ void stiff_clay_curve(common& cmn, const py_layer& layer, const py_method& metho
   cmn.PYDSP(O, layer.ND, layer.NL) = Y(1) / FL;
   curve_side branch;
   for (int i = 2; i <= 11; ++i) branch.push_back({P(i) / D1 / FS, Y(i) / FL});
+  note(cmn, equation_of("PY-STIFF-13"),
+       {{"D", layer.D, in::length},
+        {"y", branch.back().displacement, in::length},
+        {"p", branch.back().stress, in::stress}});
   store_py(cmn, layer.NL, layer.ND, branch);
 }
 

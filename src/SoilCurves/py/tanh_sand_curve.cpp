@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "Control/state/note.hpp"
 #include "Control/state/sp.hpp"
 #include "SoilCurves/store/curve_store.hpp"
 
@@ -22,7 +23,14 @@ constexpr double FRACTIONS[] = {sp(0.111f), sp(0.222f), sp(0.333f), sp(0.444f), 
 
 std::optional<double> modulus_by_water_level(common& cmn, const py_layer& layer, const py_method& method) {
   const bool dry = cmn.ZPWP > cmn.ZLAY(layer.NL);
-  return table_value(cmn, method, ANGLES, dry ? ABOVE_WATER : SUBMERGED, cmn.PHIR(layer.NL));
+  const auto KV = table_value(cmn, method, ANGLES, dry ? ABOVE_WATER : SUBMERGED, cmn.PHIR(layer.NL));
+  if (KV)
+    note(cmn, equation_of("PY-287-S1"), dry ? "above the water, Z < ZPWP" : "submerged, Z >= ZPWP",
+         {{"Z", cmn.ZLAY(layer.NL), in::length},
+          {"ZPWP", cmn.ZPWP, in::length},
+          {"phi", cmn.PHIR(layer.NL), in::degrees},
+          {"kv", *KV}});
+  return KV;
 }
 
 double load_factor(const py_layer& layer, int ICYCL) {
@@ -31,7 +39,12 @@ double load_factor(const py_layer& layer, int ICYCL) {
 }
 
 void tanh_sand_curve(common& cmn, const py_layer& layer, double PU, double KV, double ZTOL) {
-  const double APU = load_factor(layer, layer.ICYCL) * PU;
+  const double A = load_factor(layer, layer.ICYCL);
+  const double APU = A * PU;
+  note(cmn, equation_of("PY-TANH-1"), layer.ICYCL == 1 ? "cyclic" : "static",
+       {{"X", layer.H, in::length}, {"D", layer.D, in::length}, {"A", A}});
+  note(cmn, equation_of("PY-TANH-2"),
+       {{"kv", KV}, {"gw", cmn.GAMWAT, in::weight}, {"k", KV * cmn.GAMWAT, in::weight}});
   double DEN = APU * layer.D;
   if (DEN < ZTOL) DEN = 1.0;
   const double ZC = KV * cmn.GAMWAT * layer.H / DEN;
@@ -44,6 +57,11 @@ void tanh_sand_curve(common& cmn, const py_layer& layer, double PU, double KV, d
     const double E = std::exp(std::min(15.0, X));
     point.stress = ((E - 1.0) / (E + 1.0)) * APU;
   }
+  note(cmn, equation_of("PY-TANH-3"),
+       {{"A pu", APU, in::stress},
+        {"y", branch.back().displacement, in::length},
+        {"p", branch.back().stress, in::stress}});
+  note(cmn, equation_of("PY-TANH-4"), {{"3.8 A pu D / (k X)", YS, in::length}});
   store_py(cmn, layer.NL, layer.ND, branch);
 }
 

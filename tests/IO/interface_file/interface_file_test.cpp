@@ -36,8 +36,8 @@ TEST(Record, FourFieldsALineOfAnUppercaseScientificStream) {
   EXPECT_EQ(record("FIVE    ", {1.0E+100, -1.0E+100, 0.0, 0.0, 7.0}),
             "FIVE     1.00000000E+100-1.00000000E+100  0.00000000E+00  0.00000000E+00\n"
             "          7.00000000E+00\n");
-  std::vector<double> values = {std::nan(""), -std::nan(""),  INF,        -INF,
-                                5.0E-324,     0.000122070315, 999999999.5};
+  EXPECT_EQ(record("", {std::nan(""), -std::nan("")}), "             NAN             NAN\n");
+  std::vector<double> values = {INF, -INF, 5.0E-324, 0.000122070315, 999999999.5};
   for (double value = 1.0 / 3.0; values.size() < 600;) values.push_back(value *= -1.7);
   for (const double value : values) EXPECT_EQ(record("", {value}), fields({value}) + "\n");
 }
