@@ -2,7 +2,10 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cstdio>
+#include <mutex>
 #include <string_view>
 #include <system_error>
 #include <vector>
@@ -15,9 +18,27 @@ namespace fs = std::filesystem;
 
 std::atomic<int> request = 0;
 
-/// Ctrl-C and the closing of the window. The program that runs shares the console; it has the same news.
+/// The program that runs, null while none does.
+std::mutex child_guard;
+HANDLE child = nullptr;
+
+void set_child(HANDLE process) {
+  const std::lock_guard guard(child_guard);
+  child = process;
+  if (child != nullptr && request != 0) TerminateProcess(child, STATUS_CONTROL_C_EXIT);
+}
+
+/// Ctrl-C, the closing of the window and the like, on a thread of its own. The program that runs is a
+/// windowed one and hears nothing of the console, so it is ended here. The system ends this process when the
+/// closing of the window has been answered: the answer waits, a few seconds at most, for the end of the main
+/// thread.
 BOOL WINAPI on_request(DWORD event) {
-  request = static_cast<int>(event) + 1;
+  {
+    const std::lock_guard guard(child_guard);
+    request = static_cast<int>(event) + 1;
+    if (child != nullptr) TerminateProcess(child, STATUS_CONTROL_C_EXIT);
+  }
+  if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) Sleep(INFINITE);
   return TRUE;
 }
 
@@ -80,12 +101,13 @@ process_end run_program(const fs::path& program, const fs::path& directory, envi
     return end.failure = last_error(), end;
   const handle process(started.hProcess), thread(started.hThread);
   if (job.get() != nullptr) AssignProcessToJobObject(job.get(), process.get());
+  set_child(process.get());
   ResumeThread(thread.get());
   DWORD status = 0;
-  if (WaitForSingleObject(process.get(), INFINITE) != WAIT_OBJECT_0 ||
-      GetExitCodeProcess(process.get(), &status) == 0)
-    return end.failure = last_error(), end;
-  end.status = static_cast<int>(status & 0xffU);  // as other systems give it: -1 is 255
+  const bool ended = WaitForSingleObject(process.get(), INFINITE) == WAIT_OBJECT_0;
+  set_child(nullptr);
+  if (!ended || GetExitCodeProcess(process.get(), &status) == 0) return end.failure = last_error(), end;
+  end.status = static_cast<int>(std::min<DWORD>(status, 255));  // -1, and the status of a crash, are above
   return end;
 }
 
@@ -118,6 +140,9 @@ void catch_interrupts() { SetConsoleCtrlHandler(on_request, TRUE); }
 
 int interrupted() { return request; }
 
-void end_interrupted() { ExitProcess(STATUS_CONTROL_C_EXIT); }
+void end_interrupted() {
+  std::fflush(nullptr);
+  ExitProcess(STATUS_CONTROL_C_EXIT);
+}
 
 }  // namespace tervak::os
