@@ -16,12 +16,16 @@ foreach(name tervak tervak-run tervak-report tervak-check tervak-explain)
     COMMAND ${GZIP_EXECUTABLE} -9nc ${PROJECT_SOURCE_DIR}/man/${name}.1 > ${page})
   list(APPEND pages ${page})
 endforeach()
+# The change log in Debian's form.
+set(changelog ${PROJECT_BINARY_DIR}/man/changelog.gz)
+add_custom_command(OUTPUT ${changelog} DEPENDS cmake/debian/changelog VERBATIM
+  COMMAND ${GZIP_EXECUTABLE} -9nc ${PROJECT_SOURCE_DIR}/cmake/debian/changelog > ${changelog})
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/man)
-add_custom_target(man ALL DEPENDS ${pages})
+add_custom_target(man ALL DEPENDS ${pages} ${changelog})
 install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # The documents are to one another as in the repository, so that their links hold.
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CHANGELOG.md ${changelog} DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs
   FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg")
 install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples

@@ -8,6 +8,7 @@
 int main(int count, char** arguments) {
   using namespace tervak::check;
   try {
+    tervak::os::hold_standard_streams();
     tervak::os::catch_interrupts();
     const int status = run(parse_options(tervak::os::start_console(count, arguments)), std::cout);
     if (tervak::os::interrupted() != 0) tervak::os::end_interrupted();

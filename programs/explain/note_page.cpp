@@ -13,7 +13,6 @@ namespace {
 using part = note_subject::part;
 using report::escape_html;
 
-constexpr part CURVES[] = {part::py, part::tz, part::qz};
 constexpr report::plot_box BOX = {340, 230, 72, 10, 10, 40};
 
 constexpr std::string_view STYLE = R"css(

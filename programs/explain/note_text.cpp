@@ -8,8 +8,6 @@ namespace {
 
 using part = note_subject::part;
 
-constexpr part CURVES[] = {part::py, part::tz, part::qz};
-
 std::string layer_line(const told_profile& profile, int NL) {
   const told_layer& layer = profile.layers[static_cast<std::size_t>(NL) - 1];
   const std::string unit = unit_text(profile, in::length);

@@ -8,6 +8,10 @@
 
 namespace tervak::explain {
 
+/// The families of curves in the order of the note.
+inline constexpr note_subject::part CURVES[] = {note_subject::part::py, note_subject::part::tz,
+                                                note_subject::part::qz};
+
 /// A number with six significant digits.
 std::string number(double value);
 /// The unit of a value as the note shows it: of kN and m, or of the run's own F and L.

@@ -38,11 +38,14 @@ std::vector<window> windows_of(const profile& p, const units& u) {
   std::vector<window> out = {{"all depths", bottom}};
   const double whole = bottom - p.sea_floor;
   if (!(whole > 0.0) || !std::isfinite(whole)) return out;
-  for (double decade = decade_of(whole); decade >= whole / 1000.0; decade /= 10.0)
+  double decade = decade_of(whole);
+  while (decade >= whole / 1000.0) {
     for (const double part : {5.0, 2.0, 1.0})
       if (const double depth = part * decade; depth < 0.9 * whole && depth >= whole / 60.0)
         out.push_back({join({"the upper ", rounded_text(depth, 3), u.named() ? " " + u.length : ""}),
                        p.sea_floor + depth});
+    decade /= 10.0;
+  }
   return out;
 }
 

@@ -31,7 +31,7 @@ class array {
 
 /// The values that `item` makes of the points from `from` to in front of `to`, on one line.
 template <typename Make>
-std::string values(std::size_t from, std::size_t to, Make item) {
+std::string array_of(std::size_t from, std::size_t to, Make item) {
   std::string out = "[";
   for (std::size_t n = from; n < to; ++n) out += join({n > from ? "," : "", item(n)});
   return out + "]";
@@ -51,10 +51,10 @@ std::string curve_object(const profile& p, const layer& l, std::size_t d, curve_
        {"family", json_text(family_name(kind))},
        {"code", std::to_string(l.code(kind))},
        {"method", json_text(method_label(kind, l.code(kind)))},
-       {"point", values(from, to, [](std::size_t n) { return std::to_string(n + 1); })},
-       {"displacement", values(from, to, [&](std::size_t n) { return number_text(c[n].displacement); })},
-       {"stress", values(from, to, [&](std::size_t n) { return number_text(c[n].stress); })},
-       {"force_per_length", kind != curve_kind::py ? "null" : values(from, to, [&](std::size_t n) {
+       {"point", array_of(from, to, [](std::size_t n) { return std::to_string(n + 1); })},
+       {"displacement", array_of(from, to, [&](std::size_t n) { return number_text(c[n].displacement); })},
+       {"stress", array_of(from, to, [&](std::size_t n) { return number_text(c[n].stress); })},
+       {"force_per_length", kind != curve_kind::py ? "null" : array_of(from, to, [&](std::size_t n) {
           return optional_value(c[n].stress * diameter);
         })}});
 }
@@ -67,12 +67,13 @@ std::string monopile_array(const profile& p, const layer& l, bool all_points) {
       if (!all_points && is_absent(c)) continue;
       const auto [from, to] =
           all_points ? std::pair(std::size_t{0}, c.size()) : points_before_filler(c, true);
-      out.add(object(
-          {{"diameter", number_text(p.diameters[d])},
-           {"family", json_text(family_name(kind))},
-           {"point", values(from, to, [](std::size_t n) { return std::to_string(n + 1); })},
-           {"displacement", values(from, to, [&](std::size_t n) { return number_text(c[n].displacement); })},
-           {"force", values(from, to, [&](std::size_t n) { return number_text(c[n].stress); })}}));
+      out.add(
+          object({{"diameter", number_text(p.diameters[d])},
+                  {"family", json_text(family_name(kind))},
+                  {"point", array_of(from, to, [](std::size_t n) { return std::to_string(n + 1); })},
+                  {"displacement",
+                   array_of(from, to, [&](std::size_t n) { return number_text(c[n].displacement); })},
+                  {"force", array_of(from, to, [&](std::size_t n) { return number_text(c[n].stress); })}}));
     }
   return out.text();
 }
@@ -131,8 +132,8 @@ std::string profile_object(const profile& p, std::optional<double> local_scour, 
                  {"sea_floor", number_text(p.sea_floor)},
                  {"general_scour", number_text(p.general_scour)},
                  {"local_scour_level", local_scour ? number_text(*local_scour) : "null"},
-                 {"diameters",
-                  values(0, p.diameters.size(), [&](std::size_t d) { return number_text(p.diameters[d]); })},
+                 {"diameters", array_of(0, p.diameters.size(),
+                                        [&](std::size_t d) { return number_text(p.diameters[d]); })},
                  {"soil_displacements", displacements.text()},
                  {"layers", layers.text()},
                  {"capacity", capacity_array(p, local_scour)}});

@@ -5,6 +5,7 @@
 
 #include "Platform/console.hpp"
 #include "Platform/names.hpp"
+#include "Platform/process.hpp"
 #include "report/compare.hpp"
 #include "report/compare_page.hpp"
 #include "report/files.hpp"
@@ -113,6 +114,7 @@ int run(const options& o) {
 int main(int count, char** arguments) {
   const std::vector<std::string> given = tervak::os::start_console(count, arguments);
   try {
+    tervak::os::hold_standard_streams();
     const int status = run(parse_options(given));
     if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
     return status;

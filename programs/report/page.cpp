@@ -23,12 +23,11 @@ std::string page(const interface_file& file, const page_facts& facts) {
   const std::string title = file.profiles.empty() || file.profiles.front().label.empty()
                                 ? facts.file_name
                                 : file.profiles.front().label;
-  return join(
-      {"<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><meta name=\"viewport\" "
-       "content=\"width=device-width\"><title>",
-       escape_html(title), "</title><style>", plot_style, page_style, "</style></head>\n<body>", body,
-       "<script type=\"application/json\" id=\"rif-data\">", page_data(file, facts), "</script>\n<script>",
-       page_script, "</script></body></html>\n"});
+  return join({"<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">",
+               "<meta name=\"viewport\" content=\"width=device-width\"><title>", escape_html(title),
+               "</title><style>", plot_style, page_style, "</style></head>\n<body>", body,
+               "<script type=\"application/json\" id=\"rif-data\">", page_data(file, facts),
+               "</script>\n<script>", page_script, "</script></body></html>\n"});
 }
 
 }  // namespace tervak::report

@@ -75,7 +75,7 @@ std::string line(const plot& p, const plot_line& l) {
 }
 
 /// Round ticks, at most so many and one more.
-std::vector<std::string> ticks_of(double low, double high, double most) {
+std::vector<std::string> ticks_of(double low, double high, int most) {
   const double rough = (high - low) / most;
   const double decade = decade_of(rough);
   double step = 10.0 * decade;
@@ -84,7 +84,7 @@ std::vector<std::string> ticks_of(double low, double high, double most) {
   std::vector<std::string> ticks;
   // Ten digits take out what the product adds behind the round value.
   const double first = std::ceil(low / step);
-  for (double n = 0.0; n <= most && (first + n) * step <= high; n += 1.0)
+  for (int n = 0; n <= most && (first + n) * step <= high; ++n)
     ticks.push_back(rounded_text((first + n) * step, 10));
   return ticks;
 }
@@ -116,7 +116,7 @@ axis make_axis(double low, double high, std::string title, double across) {
     high += half;
   }
   axis out{low, high, {}, std::move(title)};
-  for (double most = 8.0; most >= 2.0; most -= 1.0) {
+  for (int most = 8; most >= 2; --most) {
     out.ticks = ticks_of(low, high, most);
     if (across == 0.0 || fits(out, across)) break;
   }

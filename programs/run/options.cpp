@@ -18,7 +18,8 @@ const char* const usage_text =
     "Exit status: 0 the run is good; 1 it is not; 2 it was not started.\n";
 
 fs::path default_directory(const fs::path& deck) {
-  const fs::path name = deck.filename(), stem = name.stem();
+  const fs::path name = deck.filename();
+  fs::path stem = name.stem();
   if (stem.empty() || stem == name || stem == "." || stem == "..") return fs::path(name) += ".run";
   return stem;
 }

@@ -5,11 +5,13 @@
 #include <stdexcept>
 #include <string>
 
+#include "fem/utils/digits.hpp"
+
 namespace fem {
 
-namespace {
+using utils::is_digit;
 
-constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+namespace {
 
 /// Takes the digits at the front of the text off it; 0 where there are none.
 int take_number(std::string_view& text) {

@@ -4,19 +4,21 @@
 #include <stdexcept>
 #include <unordered_map>
 
+#include "fem/utils/digits.hpp"
+
 namespace fem {
+
+using utils::is_digit;
 
 namespace {
 
 constexpr const char* INVALID = "Invalid FORMAT specification: ";
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
 /// What filtering makes of each character outside quoted text: '\0' drops it.
 constexpr std::array<char, 256> FOLDED = [] {
   std::array<char, 256> folded{};
   for (std::size_t c = 0; c < folded.size(); ++c) folded[c] = static_cast<char>(c);
-  for (char c = 'A'; c <= 'Z'; ++c) folded[static_cast<std::size_t>(c)] = static_cast<char>(c - 'A' + 'a');
+  for (std::size_t c = 'A'; c <= 'Z'; ++c) folded[c] = static_cast<char>(c - 'A' + 'a');
   folded[' '] = folded['\t'] = '\0';
   return folded;
 }();

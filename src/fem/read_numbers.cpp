@@ -3,11 +3,13 @@
 #include "fem/descriptor.hpp"
 #include "fem/errors.hpp"
 #include "fem/read_loop.hpp"
+#include "fem/utils/digits.hpp"
 #include "fem/utils/source_position.hpp"
 
 namespace fem {
 
 using utils::END_OF_INPUT;
+using utils::is_digit;
 using utils::READ_ERROR;
 
 namespace {
@@ -15,7 +17,6 @@ namespace {
 constexpr const char* BAD_INTEGER = "Invalid character while reading integer value.";
 constexpr const char* END_IN_INTEGER = "End of input while reading integer value";
 
-bool is_digit(int c) { return c >= '0' && c <= '9'; }
 bool is_white(int c) { return c == '\t' || c == '\n' || c == '\r' || c == ' '; }
 
 /// Integers wrap around; nobody checks their range.

@@ -143,15 +143,10 @@ void write_loop::put_list_directed_number(std::string_view number) {
 void write_loop::put_list_directed(std::string_view item, bool separated) {
   const std::size_t column = column_;
   const std::size_t separator = separated ? 1 : 0;
-  if (column == 0) {
-    put(" ");
-  } else if (column + separator + item.size() >= 81) {
-    put_record_end();
-    put(" ");
-    column_ = 1;
-  } else if (separated) {
-    put(" ");
-  }
+  const bool next_record = column > 0 && column + separator + item.size() >= 81;
+  if (next_record) put_record_end();
+  if (column == 0 || next_record || separated) put(" ");
+  if (next_record) column_ = 1;
   put(item);
 }
 

@@ -4,6 +4,7 @@
 set -eu
 source=$1 build=$2 compiler=$3 type=$4
 command -v "$compiler" >/dev/null || { echo "$compiler is not installed"; exit 77; }
-cmake -S "$source" -B "$build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_BUILD_TYPE="$type" -DTERVAK_TESTS=OFF >/dev/null
-cmake --build "$build" --target tervak --parallel 2 >"$build/build.log" 2>&1 || { tail -n 40 "$build/build.log"; exit 1; }
+cmake -G Ninja -S "$source" -B "$build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_BUILD_TYPE="$type" \
+  -DTERVAK_TESTS=OFF -DCMAKE_UNITY_BUILD=ON >/dev/null
+cmake --build "$build" --target tervak >"$build/build.log" 2>&1 || { tail -n 40 "$build/build.log"; exit 1; }
 exec "$source/tests/golden/golden.sh" "$build/tervak"

@@ -58,4 +58,7 @@ mkfifo "$work/fifo"
 s=0
 "$check" "$work/fifo" >"$work/out" 2>&1 || s=$?
 [ "$s" = 2 ] && grep -q "$work/fifo: " "$work/out" || fail "a FIFO in place of a deck"
+s=0
+"$check" "$work/small-clay.inp" >&- 2>"$work/out" || s=$?
+[ "$s" = 2 ] && grep -q 'standard output cannot be written' "$work/out" || fail "a closed output: status $s, $(cat "$work/out")"
 exit $bad

@@ -9,10 +9,10 @@ namespace tervak {
 
 namespace {
 
-constexpr const char* WEIGHT_WARNING = "(/,' WARNING FROM SR/BUILD5 : LAY,GAMEFF=',i5,f10.3)";
-constexpr const char* NEGATIVE_SU =
+constexpr const char* WEIGHT_WARNING_5 = "(/,' WARNING FROM SR/BUILD5 : LAY,GAMEFF=',i5,f10.3)";
+constexpr const char* NEGATIVE_SU_5 =
     "(/,' **** SR/BUILD5 : NEGATIVE SU VALUE CALCULATED',/,' LAY,TYP,SU0,SU100,ZLAY,SU=',2i5,4f10.3)";
-constexpr const char* TWO_STRENGTHS =
+constexpr const char* TWO_STRENGTHS_5 =
     "(/,' **** SR/BUILD5 : BOTH PHI AND SU ARE NON-ZERO',/,' LAY,PHI,SU=',i5,2f10.3)";
 
 /// A layer's bottom by a pile node lies this far below the node.
@@ -102,7 +102,7 @@ void subdivide(common& cmn) {
 
 void BUILD5(common& cmn, int IPASS) {
   if (IPASS == 2) {
-    make_layer_profile(cmn, {cmn.EPS * 0.01, WEIGHT_WARNING, NEGATIVE_SU, TWO_STRENGTHS});
+    make_layer_profile(cmn, {cmn.EPS * 0.01, WEIGHT_WARNING_5, NEGATIVE_SU_5, TWO_STRENGTHS_5});
   } else {
     subdivide(cmn);
   }

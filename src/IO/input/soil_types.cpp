@@ -36,7 +36,7 @@ void check_strength(common& cmn, int t) {
   if (cmn.EPS > cmn.EPS50(t)) cmn.EPS50(t) = sp(0.01f);
 }
 
-void check_clay(common& cmn, int t) {
+void check_overconsolidation(common& cmn, int t) {
   if (-cmn.EPS > cmn.OCR(t) || cmn.OCR(t) > 100.0)
     return fail(cmn, NOT_ACCEPTED, "(/,' **** SR/READG2 : TYP,OCR=',i5,f10.3)", t, cmn.OCR(t));
   if (-cmn.EPS > cmn.APIJ(t) || cmn.APIJ(t) > 1.0)
@@ -61,7 +61,7 @@ void read_soil_type(common& cmn, int t, const SoilTypeRecord& record) {
   store(cmn, t, record);
   check_strength(cmn, t);
   const bool clay = cmn.EPS > cmn.PHI(t);
-  if (cmn.IERR == 0 && clay) check_clay(cmn, t);
+  if (cmn.IERR == 0 && clay) check_overconsolidation(cmn, t);
   if (cmn.IERR == 0) check_crack_and_residual(cmn, t);
 }
 

@@ -12,7 +12,7 @@ namespace tervak {
 
 namespace {
 
-const equation& step_of(int ICODE) {
+const equation& qz_step(int ICODE) {
   if (ICODE == 100) return equation_of("QZ-100-2");
   if (ICODE == 101) return equation_of("QZ-101-1");
   return ICODE == 102 ? equation_of("QZ-102-1") : equation_of("QZ-103-1");
@@ -34,7 +34,7 @@ void QZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
   const double ZT = std::max(D * sp(0.00001f), ZC / std::max(cmn.EPS, QM) * QM);
   note(cmn, equation_of("QZ-MAX-1"), {{"SFSIGT", cmn.SFSIGT}, {"qm", QM, in::stress}});
   note(cmn, equation_of("QZ-100-1"), {{"QZDRAT", R}, {"D", D, in::length}, {"zm", ZC, in::length}});
-  note(cmn, step_of(ICODE), {{"qm", QM, in::stress}});
+  note(cmn, qz_step(ICODE), {{"qm", QM, in::stress}});
   lay_automatic_curve(qz_curves(cmn), NL, ND, ICODE, cmn.BIGDSP, {QM, ZC, 0.5 * QM, 2.0 * ZC},
                       {QM, ZT, 0.5 * QM, 2.0 * ZT});
 }

@@ -12,7 +12,7 @@ namespace tervak {
 
 namespace {
 
-const equation& step_of(int ICODE) {
+const equation& tz_step(int ICODE) {
   if (ICODE == 100) return equation_of("TZ-100-3");
   if (ICODE == 101) return equation_of("TZ-101-1");
   return ICODE == 102 ? equation_of("TZ-102-1") : equation_of("TZ-103-1");
@@ -44,7 +44,7 @@ void TZAUTO(common& cmn, layer_number NL, diameter_number ND, int ICODE) {
        {{"SFSKF", cmn.SFSKF}, {"tc", TMC, in::stress}, {"tt", TMT, in::stress}});
   note(cmn, equation_of("TZ-100-1"), {{"TZDRAT", R}, {"D", D, in::length}, {"zc", ZC, in::length}});
   note(cmn, equation_of("TZ-100-2"), {{"zt", ZT, in::length}});
-  note(cmn, step_of(ICODE), {{"rt", FR}, {"zr", ZR, in::length}});
+  note(cmn, tz_step(ICODE), {{"rt", FR}, {"zr", ZR, in::length}});
   lay_automatic_curve(tz_curves(cmn), NL, ND, ICODE, cmn.BIGDSP, {TMC, ZC, FR * TMC, ZR + ZC},
                       {TMT, ZT, FR * TMT, ZT + ZR});
 }

@@ -12,8 +12,6 @@ namespace tervak {
 
 namespace {
 
-constexpr double ZTOL = 1.0E-12;
-
 constexpr py_method METHOD{
     2014,
     "(/,' **** SR/API14 : ERROR FROM SR/APILAT  NL,ND,IERR=',3i5)",
@@ -28,23 +26,23 @@ void sand(common& cmn, const py_layer& layer) {
   const auto PU = ultimate_resistance(cmn, layer, METHOD, 0.0);
   if (!PU) return;
   const double KSOIL = cmn.KSOILM(layer.TYP);
-  const auto KV = KSOIL > ZTOL ? std::optional(KSOIL / cmn.GAMWAT)
-                               : table_value(cmn, METHOD, ANGLES, MODULI, cmn.PHIR(layer.NL));
+  const auto KV = KSOIL > FINE_ZTOL ? std::optional(KSOIL / cmn.GAMWAT)
+                                    : table_value(cmn, METHOD, ANGLES, MODULI, cmn.PHIR(layer.NL));
   if (!KV) return;
-  note(cmn, equation_of("PY-214-S1"), KSOIL > ZTOL ? "KSOILM of the deck" : "table of code 214",
+  note(cmn, equation_of("PY-214-S1"), KSOIL > FINE_ZTOL ? "KSOILM of the deck" : "table of code 214",
        {{"phi", cmn.PHIR(layer.NL), in::degrees},
         {"KSOILM", KSOIL, in::weight},
         {"gw", cmn.GAMWAT, in::weight},
         {"kv", *KV}});
-  tanh_sand_curve(cmn, layer, *PU, *KV, ZTOL);
+  tanh_sand_curve(cmn, layer, *PU, *KV, FINE_ZTOL);
 }
 
 }  // namespace
 
 void API14(common& cmn, layer_number NL, diameter_number ND) {
-  const auto layer = open_py(cmn, NL, ND, ZTOL);
+  const auto layer = open_py(cmn, NL, ND, FINE_ZTOL);
   if (!layer) return;
-  if (is_sand(cmn, *layer, ZTOL)) return sand(cmn, *layer);
+  if (is_sand(cmn, *layer, FINE_ZTOL)) return sand(cmn, *layer);
   if (is_stiff_clay(cmn, *layer)) return stiff_clay_curve(cmn, *layer, METHOD);
   if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
     soft_clay_curve_7(cmn, *layer, *PU);

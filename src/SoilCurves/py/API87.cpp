@@ -15,8 +15,6 @@ namespace tervak {
 
 namespace {
 
-constexpr double ZTOL = 1.0E-12;
-
 constexpr py_method METHOD{
     1987,
     "(/,' **** SR/API87 : ERROR FROM SR/APILAT  NL,ND,IERR=',3i5)",
@@ -55,15 +53,15 @@ void sand(common& cmn, const py_layer& layer) {
   const auto KV = modulus_by_water_level(cmn, layer, METHOD);
   if (!KV) return;
   if (layer.PYCODE == 588) return carbonate_sand_curve(cmn, layer);
-  tanh_sand_curve(cmn, layer, *PU, *KV, ZTOL);
+  tanh_sand_curve(cmn, layer, *PU, *KV, FINE_ZTOL);
 }
 
 }  // namespace
 
 void API87(common& cmn, layer_number NL, diameter_number ND) {
-  const auto layer = open_py(cmn, NL, ND, ZTOL);
+  const auto layer = open_py(cmn, NL, ND, FINE_ZTOL);
   if (!layer) return;
-  if (is_sand(cmn, *layer, ZTOL)) return sand(cmn, *layer);
+  if (is_sand(cmn, *layer, FINE_ZTOL)) return sand(cmn, *layer);
   if (is_stiff_clay(cmn, *layer)) return stiff_clay_curve(cmn, *layer, METHOD);
   if (const auto PU = ultimate_resistance(cmn, *layer, METHOD, cmn.SURED(NL)))
     soft_clay_curve_5(cmn, *layer, *PU);

@@ -27,6 +27,9 @@ struct py_method {
   const char* lookup;
 };
 
+/// The zero limit of API87 and API14; that of the other methods is EPS.
+inline constexpr double FINE_ZTOL = 1.0E-12;
+
 /// Opens the curve of one layer and one diameter. A layer whose depth is not greater than ZTOL lies at or
 /// above the scoured sea floor: it gets the curve of three points without resistance, and nothing is
 /// returned. Cyclic is a matter of level alone: a layer strictly above ZCYCL is cyclic.

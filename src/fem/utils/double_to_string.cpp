@@ -77,7 +77,8 @@ struct decimal {
 
 decimal digits_of(double a, int count) {
   int exponent = normalise(a);
-  auto digits = static_cast<std::uint64_t>(a * POWERS[count] + 0.5);
+  // Half is added in double, with its rounding: the digits printed rest on it.
+  auto digits = static_cast<std::uint64_t>(a * POWERS[count] + 0.5);  // NOLINT(bugprone-incorrect-roundings)
   if (digits == INTEGER_POWERS[count]) {
     digits = INTEGER_POWERS[count - 1];
     ++exponent;

@@ -24,7 +24,7 @@ std::string as_e(double value, int w, int d, int k) {
 std::string general_to_string(double value, int w, int d, int k) {
   const double a = std::fabs(value);
   if (value != 0.0 && a <= 0.1) return as_e(value, w, d, k);
-  const std::string plain = as_f(value, w, d);
+  std::string plain = as_f(value, w, d);
   if (plain.size() > static_cast<std::size_t>(w)) return as_e(value, w, d, k);
   if (value == 0.0) return plain;
   // The bounds take into account that the value is rounded to d digits.

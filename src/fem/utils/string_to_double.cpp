@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "fem/utils/digits.hpp"
+
 namespace fem::utils {
 
 namespace {
@@ -12,7 +14,6 @@ constexpr double NEGATIVE_POWERS[] = {1.0,  0.1,   1e-2,  1e-3,  1e-4,  1e-5,  1
                                       1e-9, 1e-10, 1e-11, 1e-12, 1e-13, 1e-14, 1e-15, 1e-16};
 constexpr double BINARY_POWERS[] = {1e1, 1e2, 1e4, 1e8, 1e16, 1e32, 1e64, 1e128, 1e256};
 
-bool is_digit(int c) { return c >= '0' && c <= '9'; }
 bool is_white(int c) { return c == '\t' || c == '\n' || c == '\r' || c == ' '; }
 
 double power_of_ten(std::int64_t exponent) {
@@ -148,7 +149,7 @@ number_result string_to_double(simple_istream& in, int decimals, int scale) {
 
 std::string character_description(int c) {
   if (c < 0) c += 256;
-  const std::string ordinal = "ordinal=" + std::to_string(c);
+  std::string ordinal = "ordinal=" + std::to_string(c);
   if (c == '"') return "'\"' (double quote, " + ordinal + ")";
   if (c == '\'') return "\"'\" (single quote, " + ordinal + ")";
   if (c < 32 || c > 126) return ordinal;

@@ -4,10 +4,10 @@
 
 namespace {
 
-using echo_linerd = scratch_run;
+using EchoLinerd = scratch_run;
 
 // Heading and rulers stand in a golden listing.
-TEST_F(echo_linerd, EchoNumbersLinesAndCutsThemAt80) {
+TEST_F(EchoLinerd, EchoNumbersLinesAndCutsThemAt80) {
   put("fem_io_unit_014", " one\r\n" + std::string(85, 'x') + "\nlast");
   tervak::ECHO(cmn, 14, 16, "TERVAK");
   const std::string lines = "\n\n    1----  one" + std::string(76, ' ') + "\n    2---- " +
@@ -16,7 +16,7 @@ TEST_F(echo_linerd, EchoNumbersLinesAndCutsThemAt80) {
 }
 
 // The deck has 45 lines of 76 characters, which begin with their own number.
-TEST_F(echo_linerd, LinerdShowsTheLastLinesAndCutsThemAt70) {
+TEST_F(EchoLinerd, LinerdShowsTheLastLinesAndCutsThemAt70) {
   std::string deck;
   for (int n = 1; n <= 45; ++n) deck += std::to_string(100 + n) + std::string(67, '.') + "beyond\n";
   put("fem_io_unit_014", deck);

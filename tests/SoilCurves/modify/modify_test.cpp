@@ -21,7 +21,7 @@ struct modify_layers : small_layer {
 
 }  // namespace
 
-TEST(first_live_layer, lies_below_the_local_scour) {
+TEST(FirstLiveLayer, LiesBelowTheLocalScour) {
   small_layer soil(3);
   soil.cmn.ZSEAFL = 1.0;
   for (const auto& [SCRLOC, first] : {std::pair{3.9, 1}, {4.0, 2}, {14.0, 3}}) {

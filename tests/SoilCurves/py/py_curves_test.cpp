@@ -86,7 +86,7 @@ const struct {
     {automatic<103>, {.PHI = 30, .SU = 10}, 9, {{1, .03, .75 * PY30}, {2, .1, PY30}, {3, .2, .5 * PY30}}},
 };
 
-TEST(py_curves, points_and_symmetry) {
+TEST(PyCurves, PointsAndSymmetry) {
   for (const auto& c : CASES) {
     SCOPED_TRACE("row " + std::to_string(&c - CASES));
     const py_case soil(c.routine, c.soil);
@@ -104,7 +104,7 @@ TEST(py_curves, points_and_symmetry) {
 }
 
 // y(1) is 0.111 * 3.8 / ZC with ZC = KV * GAMWAT * H / (APU * D). The layer's level is 5.
-TEST(tanh_sand, modulus_tables) {
+TEST(TanhSand, ModulusTables) {
   const struct {
     py_routine routine;
     double PHI, ZPWP, KSOIL, KV;

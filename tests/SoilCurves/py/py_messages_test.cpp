@@ -8,7 +8,7 @@ using namespace tervak;
 namespace {
 
 // At the limit three points without resistance; above it the method runs, or refuses such a layer.
-TEST(py_opening, zero_limit) {
+TEST(PyOpening, ZeroLimit) {
   const std::pair<py_routine, double> rows[] = {{API84, 1e-10}, {ISO04, 1e-10}, {VRK80, 1e-10},
                                                 {NGI11, 1e-10}, {API87, 1e-12}, {API14, 1e-12}};
   for (const auto& [routine, limit] : rows) {
@@ -38,7 +38,7 @@ struct second_layer : small_layer {
   }
 };
 
-TEST(py_messages, failures) {
+TEST(PyMessages, Failures) {
   const std::pair<py_routine, std::string> rows[] = {
       {API84, "API84"}, {API87, "API87"}, {API14, "API14"}, {ISO04, "ISO04"}};
   const std::string LATERAL = " : ERROR FROM SR/APILAT  NL,ND,IERR=    2    3    6";
@@ -50,7 +50,7 @@ TEST(py_messages, failures) {
   second_layer(35).expect_failure(VRK80, "VRK80 : ERROR FROM SR/VRKLAT  NL,ND,IERR=    6");  // the code alone
 }
 
-TEST(py_messages, exponent_warning_goes_on) {
+TEST(PyMessages, AnExponentBelowTheLimitIsAWarning) {
   second_layer soil(35, 0, 0);
   API84(soil.cmn, 2, 3);
   EXPECT_EQ(soil.log(),
@@ -61,7 +61,7 @@ TEST(py_messages, exponent_warning_goes_on) {
   EXPECT_EQ(soil.y(1, 2, 3), 0);
 }
 
-TEST(py_messages, stiffness_ratio_of_ngi11) {
+TEST(PyMessages, StiffnessRatioOfNgi11) {
   const std::pair<double, std::string> rows[] = {
       {25.0, ""}, {2500.0, ""}, {24.99, "   24.99"}, {2500.01, " 2500.01"}};
   for (const auto& [G, text] : rows) {
@@ -77,7 +77,7 @@ TEST(py_messages, stiffness_ratio_of_ngi11) {
   }
 }
 
-TEST(PYMAN, far_point_where_there_is_room) {
+TEST(PYMAN, AFarPointWhereThereIsRoom) {
   const double rows[][4] = {{0, 1, 1000, 0}, {3, 7, 1002, 4}, {14, 29, 1013, 26}, {15, 29, 14, 28}};
   for (const auto& [given_points, whole, y, p] : rows) {
     small_layer soil;

@@ -11,7 +11,7 @@ namespace {
 // IYEAR, ICYCL, SU, PHI, DEPTH, SIGZ, GAM, DIAM, resistance in kN/m, code: a code leaves 0, the highest
 // stands. Left: Matlock 1970; sand of 30 degrees whose strength is below the tolerance, (1.911705 H / D
 // + 2.666667) SIGZ; the tolerances themselves.
-TEST(APILAT, values_and_codes) {
+TEST(APILAT, ValuesAndCodes) {
   const double low = 0.9e-6;
   const double rows[][10] = {
       {1984, 0, 25, 30, 1, 0, 8, 0.6, 62.3, 0},      {1984, 0, low, low, 1, 0, 0, 1, 0, 1},
@@ -33,7 +33,7 @@ TEST(APILAT, values_and_codes) {
 // PHI, SU, DEPTH, SIGZ, DIAM, GAM, ICYCL, OCR, resistance, code. Left: 30 degrees has the passive coefficient
 // 3, and the short pi costs 2E-6; clay by its strength ratio 4 SU / SIGZ; the sand form. Other values stand
 // with the curves.
-TEST(VRKLAT, values_and_codes) {
+TEST(VRKLAT, ValuesAndCodes) {
   const double rows[][10] = {
       {30, 0, 5, 50, 1, 10, 1, 0, 3.0 * 3 * 50, 0}, {0, 0, 5, 50, 1, 10, 0, 0, 0, 1},
       {30, 0, 5, 50, 5, 10, 1, 0, 1.5 * 3 * 50, 0}, {30, 0, 0, 50, 1, 10, 0, 0, 0, 2},
@@ -52,7 +52,7 @@ TEST(VRKLAT, values_and_codes) {
 
 // PHI, SU, DEPTH, SIGZ, expected, tolerance. Brinch Hansen 1961: Nc 5.14 and 30.14, depth factor 1.58 + 4.09
 // tan(phi)^4; the rest worked independently.
-TEST(PYULT, surface_and_depth) {
+TEST(PYULT, SurfaceAndDepth) {
   const double rows[][6] = {
       {0, 1, 0, 0, 2.5707963268, 1e-9}, {0, 1, 1e9, 0, 5.14 * 1.58, 4e-4},
       {0, 1, 5, 0, 6.8243751261, 1e-7}, {30, 1, 1e9, 0, 30.14 * 2.034444, 1e-4},

@@ -20,7 +20,7 @@ struct stiff_clay : small_layer {
 // 0.28, yp 0.00861. A published point, the floor, the cyclic end; the second point, where the initial line k
 // z y holds the curve down, on both sides of the steps of modulus and strain at 95.8 and 191.6; where it does
 // not (static, met late); where it does and does not under cyclic load.
-TEST(PYStiffClay, points) {
+TEST(PYStiffClay, Points) {
   const double rows[][6] = {
       {100, 1, 0, 8, 6 * 0.42 * 0.005, 188.192203},
       {100, 0.001, 0, 10, 18 * 0.20022 * 0.005, 0},
@@ -42,7 +42,7 @@ TEST(PYStiffClay, points) {
   }
 }
 
-TEST(PYStiffClay, strength_profile_scour_and_disorder) {
+TEST(PYStiffClay, StrengthProfileScourAndDisorder) {
   stiff_clay clay;
   clay.make({0.0, 6.0, 7.0, 30.0}, {50.0, 50.0, 200.0, 200.0}, 20, 0);
   expect_rel(clay.Y(10), 18 * 0.6 * 0.004, 1e-9);  // flow around the pile: the strain goes with the depth
@@ -54,7 +54,7 @@ TEST(PYStiffClay, strength_profile_scour_and_disorder) {
   EXPECT_EQ(clay.IERR, 12);
 }
 
-TEST(PYStiffClay, trace) {
+TEST(PYStiffClay, Trace) {
   stiff_clay clay;
   clay.make({0.0}, {100.0}, 4, 1, 0, 1);
   EXPECT_EQ(
@@ -69,7 +69,7 @@ TEST(PYStiffClay, trace) {
 }
 
 // The published point at 6 A YC, in newtons and millimetres; the strength list comes back.
-TEST(stiff_clay, converts_through_the_atmosphere) {
+TEST(StiffClay, ConvertsThroughTheAtmosphere) {
   for (const py_routine routine : {API84, API87, API14, ISO04}) {
     py_case soil(routine, {.SU = 0.1, .H = 1000, .SIGZ = 0.019, .D = 1000});
     soil.cmn.ATMPRS = 0.1013, soil.cmn.GAMWAT = 1e-5;
