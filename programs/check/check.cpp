@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "Platform/files.hpp"
+#include "Platform/names.hpp"
 
 namespace tervak::check {
 
@@ -13,10 +14,10 @@ std::unique_ptr<const deck_reading> read_deck(const std::filesystem::path& deck)
   const auto kind = std::filesystem::status(deck).type();
   if (kind == std::filesystem::file_type::not_found || kind == std::filesystem::file_type::directory) {
     std::ifstream stream(deck, std::ios::binary);  // the reader says why in its own words
-    return std::make_unique<const deck_reading>(stream, deck.string());
+    return std::make_unique<const deck_reading>(stream, os::name_of(deck));
   }
   std::istringstream stream(os::read_file(deck));
-  return std::make_unique<const deck_reading>(stream, deck.string());
+  return std::make_unique<const deck_reading>(stream, os::name_of(deck));
 }
 
 deck_report check_deck(const deck_reading& deck, const std::set<std::string, std::less<>>& accepted) {

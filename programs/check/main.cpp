@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "check/commands.hpp"
+#include "Platform/console.hpp"
 #include "Platform/process.hpp"
 
 int main(int count, char** arguments) {
@@ -9,7 +10,7 @@ int main(int count, char** arguments) {
   try {
     tervak::os::hold_standard_streams();
     tervak::os::catch_interrupts();
-    const int status = run(parse_options({arguments + 1, arguments + count}), std::cout);
+    const int status = run(parse_options(tervak::os::start_console(count, arguments)), std::cout);
     if (tervak::os::interrupted() != 0) tervak::os::end_interrupted();
     if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
     return status;

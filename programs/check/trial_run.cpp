@@ -4,6 +4,7 @@
 
 #include "companion/deck_run.hpp"
 #include "companion/run_files.hpp"
+#include "Platform/names.hpp"
 
 namespace tervak::check {
 
@@ -11,7 +12,7 @@ std::string trial_run(const std::filesystem::path& deck, const deck_reading& rea
                       const std::filesystem::path& program) {
   const companion::deck_run run(program, companion::read_input(deck, deck.parent_path()));
   if (!run.end().failure.empty())
-    throw std::runtime_error("the trial run of " + program.string() + " " + companion::ending(run.end()));
+    throw std::runtime_error("the trial run of " + os::name_of(program) + " " + companion::ending(run.end()));
   const std::string log = run.file("TERVAK.MLG").value_or("");
   if (run.end().status == 0 && companion::last_line(log) == companion::NORMAL_EXIT) return "";
 

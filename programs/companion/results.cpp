@@ -11,6 +11,7 @@
 #include "companion/interface_file.hpp"
 #include "companion/run_files.hpp"
 #include "Platform/files.hpp"
+#include "Platform/names.hpp"
 #include "TervakExchange/TervakMultipleSoilProfiles.hpp"
 
 namespace tervak::companion {
@@ -99,7 +100,7 @@ void compare(const fs::path& directory, const fs::path& program, results& found)
   const deck_run again(program, input);
   found.again = again.end();
   if (!found.again.failure.empty()) {
-    found.trouble = "the program " + program.string() + " " + ending(found.again);
+    found.trouble = "the program " + os::name_of(program) + " " + ending(found.again);
     return;
   }
   expect_room(again.directory());

@@ -1,4 +1,5 @@
 #include "companion/shown.hpp"
+#include "Platform/names.hpp"
 
 namespace tervak::companion {
 
@@ -18,6 +19,6 @@ std::string shown(std::string_view text) {
 
 std::string shown(const std::string& text) { return shown(std::string_view(text)); }
 
-std::string shown(const std::filesystem::path& file) { return shown(std::string_view(file.string())); }
+std::string shown(const std::filesystem::path& file) { return shown(std::string_view(os::name_of(file))); }
 
 }  // namespace tervak::companion

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "Control/run/CONTRL.hpp"
+#include "Platform/names.hpp"
 #include "Platform/scratch_directory.hpp"
 
 namespace tervak::explain {
@@ -24,6 +25,7 @@ class run_place {
   run_place(const run_place&) = delete;
   run_place& operator=(const run_place&) = delete;
   [[nodiscard]] const fs::path& path() const { return scratch_.path(); }
+  void enter() const { fs::current_path(path()); }
 
  private:
   os::scratch_directory scratch_;  // goes when nobody is in it
@@ -48,12 +50,14 @@ void read_log(told_run& run) {
 }  // namespace
 
 told_run run_deck(const std::string& deck) {
-  const fs::path source = fs::absolute(deck);
+  const fs::path source = fs::absolute(os::path_of(deck));
   const fs::path nodes = source.parent_path() / "PILEPLOT.TXT";
   const run_place scratch;
-  for (const char* name : {"TERVAK.INP", "tervak.inp"}) fs::copy_file(source, scratch.path() / name);
+  for (const char* name : {"TERVAK.INP", "tervak.inp"})
+    if (!fs::exists(scratch.path() / name))  // one file where the file system folds case
+      fs::copy_file(source, scratch.path() / name);
   if (fs::is_regular_file(nodes)) fs::copy_file(nodes, scratch.path() / "PILEPLOT.TXT");
-  fs::current_path(scratch.path());
+  scratch.enter();
 
   auto cmn = std::make_unique<common>();
   note_book book(*cmn);

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <exception>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -8,6 +7,8 @@
 #include "explain/note_page.hpp"
 #include "explain/note_text.hpp"
 #include "explain/options.hpp"
+#include "Platform/console.hpp"
+#include "Platform/names.hpp"
 #include "Platform/process.hpp"
 #include "report/files.hpp"
 #include "TervakExchange/deck_reading.hpp"
@@ -40,8 +41,7 @@ void check_choice(const choice& chosen, const told_run& run) {
 }
 
 void write_page(const options& o, const told_run& run, const deck_places& places) {
-  const std::string page =
-      note_page(run, o.chosen, places, std::filesystem::path(o.deck).filename().string());
+  const std::string page = note_page(run, o.chosen, places, os::name_of(os::path_of(o.deck).filename()));
   if (page.size() > LARGEST_PAGE) throw usage_error(too_large(page));
   tervak::report::write_file(o.output, page);
   std::cout << stop_text(run);
@@ -54,7 +54,7 @@ int explain(const options& o) {
   }
   if (!o.output.empty() && tervak::report::same_file(o.deck, o.output))
     throw usage_error("'" + o.output + "' is the deck: the page would replace it");
-  std::ifstream stream(o.deck, std::ios::binary);
+  std::ifstream stream(tervak::os::path_of(o.deck), std::ios::binary);
   const Vrsk::Plin::TervakExchange::deck_reading deck(stream, o.deck);
   if (deck.fault_count() > 0) {
     std::cerr << deck.refusal("\n") << '\n';
@@ -75,7 +75,7 @@ int explain(const options& o) {
 int main(int count, char** arguments) {
   os::catch_interrupts();
   try {
-    const int status = explain(parse_options({arguments + 1, arguments + count}));
+    const int status = explain(parse_options(tervak::os::start_console(count, arguments)));
     if (!std::cout.flush()) throw std::runtime_error("standard output cannot be written");
     if (os::interrupted() != 0) os::end_interrupted();
     return status;

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "Platform/names.hpp"
 #include "report/files.hpp"
 #include "report/text.hpp"
 #include "TervakExchange/TervakMultipleSoilProfiles.hpp"
@@ -14,6 +15,7 @@ namespace tervak::report {
 namespace {
 
 namespace fs = std::filesystem;
+
 using Vrsk::Plin::TervakExchange::Tervak;
 using Vrsk::Plin::TervakExchange::TervakMultipleSoilProfiles;
 
@@ -102,13 +104,13 @@ std::string first_line(std::string_view text) {
 }  // namespace
 
 deck_beside read_deck_beside(const std::string& rif_name, const interface_file& file) {
-  const fs::path path = fs::path(rif_name).parent_path() / deck_name;
+  const fs::path path = os::path_of(rif_name).parent_path() / deck_name;
   std::error_code error;
   if (!fs::exists(path, error))
     return {{}, std::string("There is no deck ") + deck_name + " in the directory of the file."};
   TervakMultipleSoilProfiles deck;
   try {
-    std::istringstream stream(read_file(path.string()));
+    std::istringstream stream(read_file(os::name_of(path)));
     deck.Import(stream, "m", "N", deck_name);
   } catch (const std::exception& fault) {
     return {{}, "The deck in the directory of the file cannot be read: " + first_line(fault.what())};

@@ -38,7 +38,7 @@ std::vector<window> windows_of(const profile& p, const units& u) {
   std::vector<window> out = {{"all depths", bottom}};
   const double whole = bottom - p.sea_floor;
   if (!(whole > 0.0) || !std::isfinite(whole)) return out;
-  double decade = std::pow(10.0, std::floor(std::log10(whole)));
+  double decade = decade_of(whole);
   while (decade >= whole / 1000.0) {
     for (const double part : {5.0, 2.0, 1.0})
       if (const double depth = part * decade; depth < 0.9 * whole && depth >= whole / 60.0)

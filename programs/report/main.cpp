@@ -1,9 +1,10 @@
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <numeric>
 #include <stdexcept>
 
+#include "Platform/console.hpp"
+#include "Platform/names.hpp"
 #include "Platform/process.hpp"
 #include "report/compare.hpp"
 #include "report/compare_page.hpp"
@@ -19,7 +20,7 @@
 namespace {
 
 using namespace tervak::report;
-namespace fs = std::filesystem;
+namespace os = tervak::os;
 
 void refuse_input(const std::string& input, const std::string& output, const char* what) {
   if (same_file(input, output))
@@ -30,7 +31,7 @@ void write_page(const options& o) {
   const std::string output = o.output.empty() ? "TERVAK.html" : o.output;
   refuse_input(o.input, output, "page");
   const interface_file file = read_interface_file(o.input, open_file(o.input));
-  const page_facts facts{fs::path(o.input).filename().string(), o.u, run_log_beside(o.input),
+  const page_facts facts{os::name_of(os::path_of(o.input).filename()), o.u, run_log_beside(o.input),
                          read_deck_beside(o.input, file), find_note_beside(o.input, output)};
   write_file(output, page(file, facts));
   std::size_t layers = 0;
@@ -62,7 +63,8 @@ void write_pictures(const options& o) {
   const bool one = layers.size() == 1;
   const auto output = [&](std::size_t l) {
     if (one) return o.output.empty() ? std::string("TERVAK.svg") : o.output;
-    return (fs::path(o.output) / ("p" + std::to_string(number) + "-l" + std::to_string(l) + ".svg")).string();
+    return os::name_of(os::path_of(o.output) /
+                       ("p" + std::to_string(number) + "-l" + std::to_string(l) + ".svg"));
   };
   for (const std::size_t l : layers) refuse_input(o.input, output(l), "picture");
   if (!one && !o.output.empty()) make_directory(o.output);
@@ -111,7 +113,7 @@ int run(const options& o) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  const std::vector<std::string> given(arguments + 1, arguments + count);
+  const std::vector<std::string> given = tervak::os::start_console(count, arguments);
   try {
     tervak::os::hold_standard_streams();
     const int status = run(parse_options(given));

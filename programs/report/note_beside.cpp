@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "Platform/names.hpp"
 #include "report/files.hpp"
 
 namespace tervak::report {
@@ -11,13 +12,14 @@ namespace tervak::report {
 namespace fs = std::filesystem;
 
 std::optional<note_beside> find_note_beside(const std::string& interface_file, const std::string& page) {
-  const fs::path note = fs::path(interface_file).parent_path() / "TERVAK.NOTE.html";
+  const fs::path note = os::path_of(interface_file).parent_path() / "TERVAK.NOTE.html";
   std::error_code error;
   if (!fs::is_regular_file(note, error)) return std::nullopt;
   try {
-    const fs::path from = fs::path(page).parent_path();
-    note_beside found{fs::proximate(note, from.empty() ? fs::path(".") : from).generic_string(), {}};
-    const std::string text = read_file(note.string());
+    const fs::path from = os::path_of(page).parent_path();
+    const std::u8string address = fs::proximate(note, from.empty() ? fs::path(".") : from).generic_u8string();
+    note_beside found{{address.begin(), address.end()}, {}};
+    const std::string text = read_file(os::name_of(note));
     constexpr std::string_view END = "-axial\"";
     for (std::size_t at = 0; (at = text.find(END, at)) != std::string::npos; at += END.size()) {
       const std::size_t from_id = text.rfind('"', at) + 1;

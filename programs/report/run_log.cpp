@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "Platform/names.hpp"
 #include "report/files.hpp"
 
 namespace tervak::report {
@@ -51,11 +52,11 @@ run_log parse_run_log(std::string_view text) {
 }
 
 std::optional<run_log> run_log_beside(const std::string& interface_file) {
-  const std::filesystem::path log = std::filesystem::path(interface_file).parent_path() / "TERVAK.MLG";
+  const std::filesystem::path log = os::path_of(interface_file).parent_path() / "TERVAK.MLG";
   std::error_code error;
   if (!std::filesystem::is_regular_file(log, error)) return std::nullopt;
   try {
-    return parse_run_log(read_file(log.string()));
+    return parse_run_log(read_file(os::name_of(log)));
   } catch (const std::runtime_error&) {
     return std::nullopt;
   }

@@ -77,7 +77,7 @@ std::string line(const plot& p, const plot_line& l) {
 /// Round ticks, at most so many and one more.
 std::vector<std::string> ticks_of(double low, double high, int most) {
   const double rough = (high - low) / most;
-  const double decade = std::pow(10.0, std::floor(std::log10(rough)));
+  const double decade = decade_of(rough);
   double step = 10.0 * decade;
   for (const double part : {5.0, 2.0, 1.0})
     if (part * decade >= rough) step = part * decade;

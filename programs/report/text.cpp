@@ -123,6 +123,12 @@ std::string rounded_text(double value, int digits) {
   return number_text(std::strtod(buffer.data(), nullptr));
 }
 
+double decade_of(double value) {
+  if (!(value > 0.0) || !std::isfinite(value)) return value;
+  const std::string decade = "1e" + std::to_string(std::lround(std::floor(std::log10(value))));
+  return std::strtod(decade.c_str(), nullptr);
+}
+
 std::string ranges_text(const std::vector<std::size_t>& numbers) {
   std::string out;
   for (std::size_t i = 0; i < numbers.size();) {

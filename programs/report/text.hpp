@@ -33,6 +33,10 @@ std::string number_text(double value);
 /// The same of the value rounded to so many significant digits.
 std::string rounded_text(double value, int digits);
 
+/// The power of ten at or below a positive number, as its decimal reads: std::pow gives another last bit on
+/// some systems, and a tick more or less with it. Any other number is given back.
+double decade_of(double value);
+
 /// "1 to 4, 7, 9 to 12" from ascending numbers.
 std::string ranges_text(const std::vector<std::size_t>& numbers);
 

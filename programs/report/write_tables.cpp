@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "Platform/names.hpp"
 #include "report/csv_tables.hpp"
 #include "report/deck_beside.hpp"
 #include "report/files.hpp"
@@ -14,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string in_directory(const options& o, const std::string& name) {
-  return (fs::path(o.csv_directory) / name).string();
+  return os::name_of(os::path_of(o.csv_directory) / name);
 }
 
 void refuse_input(const options& o, const std::string& name) {
@@ -29,7 +30,7 @@ std::string left_over(const options& o, const std::vector<csv_file>& files) {
     const bool written =
         std::any_of(files.begin(), files.end(), [&](const csv_file& f) { return f.name == name; });
     std::error_code error;
-    if (!written && fs::exists(in_directory(o, name), error))
+    if (!written && fs::exists(os::path_of(in_directory(o, name)), error))
       out += in_directory(o, name) + ": not of this file, it was there before\n";
   }
   return out;

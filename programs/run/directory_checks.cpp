@@ -7,6 +7,7 @@
 
 #include "companion/shown.hpp"
 #include "Platform/files.hpp"
+#include "Platform/names.hpp"
 #include "run/refusal.hpp"
 
 namespace tervak::run {
@@ -50,7 +51,7 @@ void check_runtime_files(const fs::path& directory) {
   std::error_code error;
   for (fs::directory_iterator entry(directory, error); !error && entry != fs::directory_iterator();
        entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
+    const std::string name = os::name_of(entry->path().filename());
     if (!name.starts_with(RUNTIME_PREFIX)) continue;
     const os::file_kind kind = os::kind_of(entry->path());
     if (is_unit_file(name) ? kind == os::file_kind::regular : kind == os::file_kind::directory) {
@@ -64,7 +65,22 @@ void check_runtime_files(const fs::path& directory) {
   if (error) throw refusal("cannot list the directory " + shown(directory) + ": " + error.message());
 }
 
+void expect_length(const fs::path& file, std::size_t added) {
+  const fs::path whole = fs::absolute(file).lexically_normal();
+  const std::size_t length = whole.native().size() + added, most = os::longest_path();
+  if (length > most)
+    throw refusal("the path " + shown(whole) + (added > 0 ? ", with the names of a run's files," : "") +
+                  " has " + std::to_string(length) + " characters, and programs here open at most " +
+                  std::to_string(most) + ": use a directory with a shorter path");
+}
+
 }  // namespace
+
+void check_lengths(const fs::path& directory, const fs::path& deck) {
+  constexpr std::string_view LONGEST_NAME = "/soil_halde.fem.bak";
+  expect_length(deck, 0);
+  expect_length(directory, LONGEST_NAME.size());
+}
 
 void check_directory(const fs::path& directory, const fs::path& deck) {
   for (const char* const name : NAMES) {

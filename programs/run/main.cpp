@@ -6,6 +6,7 @@
 
 #include "BlockKeeper/ExhaustedMemory.hpp"
 #include "companion/shown.hpp"
+#include "Platform/console.hpp"
 #include "Platform/file_lock.hpp"
 #include "Platform/files.hpp"
 #include "Platform/process.hpp"
@@ -76,6 +77,7 @@ int make_run(const run::options& o, const fs::path& program, const fs::path& dir
 
 /// `status`, that of this program, changes when the run begins and when it is known to be good.
 void run_deck(const run::options& o, int& status) {
+  run::check_lengths(o.directory, o.deck);
   if (os::kind_of(o.deck) == os::file_kind::absent) throw run::refusal("no such deck: " + shown(o.deck));
   static_cast<void>(os::read_file(o.deck));  // before a directory is made for it
   const fs::path program = os::find_program("tervak");
@@ -103,8 +105,10 @@ void run_deck(const run::options& o, int& status) {
   status = found;
 }
 
-void run_words(const std::vector<std::string>& words, int& status) {
-  const run::options o = run::parse_options(words);
+/// A deck that was dropped on the program runs beside itself: nobody has said where "here" is.
+void run_words(const std::vector<std::string>& words, bool dropped, int& status) {
+  run::options o = run::parse_options(words);
+  if (dropped) o.directory = o.deck.parent_path() / o.directory;
   if (!o.help) return run_deck(o, status);
   if (std::cout << run::usage_text << std::flush) status = GOOD;
 }
@@ -113,13 +117,17 @@ void run_words(const std::vector<std::string>& words, int& status) {
 
 int main(int count, char** words) {
   int status = NOT_STARTED;
+  bool own_window = false;
   try {
     os::hold_standard_streams();
     os::catch_interrupts();
-    run_words({words + 1, words + count}, status);
+    const std::vector<std::string> given = os::start_console(count, words);
+    own_window = given.size() < 2 && os::owns_console();
+    run_words(given, own_window, status);
   } catch (const std::exception& error) {
     std::cerr << "tervak-run: " << error.what() << '\n';
   }
+  if (own_window) os::wait_for_enter();
   if (os::interrupted() != 0) os::end_interrupted();
   return status;
 }

@@ -7,6 +7,7 @@
 #include "companion/shown.hpp"
 #include "explain/note_page.hpp"
 #include "Platform/files.hpp"
+#include "Platform/names.hpp"
 #include "TervakExchange/deck_reading.hpp"
 
 namespace tervak::run {
@@ -26,13 +27,13 @@ std::vector<std::string> lines_of(const std::string& text) {
 
 std::string page_of(const fs::path& directory, const fs::path& deck) {
   std::istringstream stream(os::read_file(directory / "TERVAK.INP"));
-  const Vrsk::Plin::TervakExchange::deck_reading reading(stream, deck.filename().string());
+  const Vrsk::Plin::TervakExchange::deck_reading reading(stream, os::name_of(deck.filename()));
   explain::told_run told;
   if (reading.fault_count() > 0)
     told.stop = lines_of(reading.refusal("\n"));
   else
-    told = explain::run_deck((directory / "TERVAK.INP").string());
-  return explain::note_page(told, {}, explain::deck_places(reading), deck.filename().string());
+    told = explain::run_deck(os::name_of(directory / "TERVAK.INP"));
+  return explain::note_page(told, {}, explain::deck_places(reading), os::name_of(deck.filename()));
 }
 
 }  // namespace

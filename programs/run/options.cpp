@@ -1,5 +1,6 @@
 #include "run/options.hpp"
 
+#include "Platform/names.hpp"
 #include "run/refusal.hpp"
 
 namespace tervak::run {
@@ -22,7 +23,7 @@ const char* const usage_text =
 fs::path default_directory(const fs::path& deck) {
   const fs::path name = deck.filename();
   fs::path stem = name.stem();
-  if (stem.empty() || stem == name || stem == "." || stem == "..") return name.string() + ".run";
+  if (stem.empty() || stem == name || stem == "." || stem == "..") return fs::path(name) += ".run";
   return stem;
 }
 
@@ -36,9 +37,9 @@ options parse_options(std::vector<std::string> words) {
   if (words.empty() || words.size() > 2)
     throw refusal("expected a deck and a directory, found " + std::to_string(words.size()) +
                   " arguments; see tervak-run --help");
-  out.deck = words[0];
+  out.deck = os::path_of(words[0]);
   if (out.deck.filename().empty()) throw refusal("no such deck: " + words[0]);
-  out.directory = words.size() == 2 ? fs::path(words[1]) : default_directory(out.deck);
+  out.directory = words.size() == 2 ? os::path_of(words[1]) : default_directory(out.deck);
   if (out.directory.empty()) throw refusal("the name of the directory is empty");
   return out;
 }

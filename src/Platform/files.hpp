@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -13,6 +14,10 @@ enum class file_kind { absent, regular, directory, link, other };
 file_kind kind_of(const std::filesystem::path& file);
 /// "a link", "a directory" and so on.
 const char* text_of(file_kind kind);
+
+/// The characters (bytes, or UTF-16 units on Windows) that a whole path may have at most. Where a system
+/// knows no such limit, or says so itself at the call, there is none here.
+std::size_t longest_path();
 
 /// All bytes of a regular file, or of the regular file that a link leads to. Does not wait for a FIFO. Throws
 /// std::runtime_error, whose text gives the name and the reason.

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <stdexcept>
 
 namespace tervak::os {
@@ -77,6 +78,8 @@ const char* text_of(file_kind kind) {
   }
   return "neither a file nor a directory";
 }
+
+std::size_t longest_path() { return std::numeric_limits<std::size_t>::max(); }
 
 std::string read_file(const fs::path& file) {
   const handle in(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));

@@ -3,9 +3,6 @@
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#ifdef __linux__
-#include <sys/prctl.h>
-#endif
 
 #include <algorithm>
 #include <array>
@@ -15,6 +12,8 @@
 #include <cstring>
 #include <string_view>
 #include <vector>
+
+#include "Platform/end_with_parent.hpp"
 
 extern char** environ;
 
@@ -61,9 +60,7 @@ bool is_preload(std::string_view variable) {
 /// What the child does between fork and the program; calls only what is allowed there. Returns on failure.
 void become(const char* program, const char* directory, char* const* variables, pid_t parent,
             const requests_wait& requests) {
-#ifdef __linux__
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-#endif
+  end_with_parent();
   if (getppid() != parent) _exit(127);
   // A limit on the size of files ends the program with a signal and does not cut its files in silence.
   std::signal(SIGXFSZ, SIG_DFL);

@@ -1,11 +1,14 @@
 #include "TervakExchange/deck_reading.hpp"
 
-#include <sys/stat.h>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
+#include "Platform/names.hpp"
+#include "Platform/streams.hpp"
 #include "TervakExchange/layer_rows.hpp"
 #include "TervakExchange/profile_checks.hpp"
 
@@ -16,21 +19,25 @@ namespace {
 /// Why a deck cannot be opened. Only the name by which the program itself reads its deck has a second name
 /// beside it, in capitals, that the engineer may have written instead.
 std::string why_unopened(const std::string& name) {
-  struct stat entry {};
-  errno = 0;
-  if (lstat(name.c_str(), &entry) != 0 && errno == ENOENT) {
+  std::error_code error;
+  const std::filesystem::path file = tervak::os::path_of(name);
+  const std::filesystem::file_status entry = std::filesystem::symlink_status(file, error);
+  if (error == std::errc::no_such_file_or_directory) {
     std::string text = std::string("cannot open the deck: ") + std::strerror(ENOENT);
-    if (name == "tervak.inp")
+    if (name == "tervak.inp" && tervak::os::case_tells_names_apart())
       text +=
           "; upper and lower case are two names on this file system, and the deck must "
           "stand under both TERVAK.INP and tervak.inp: ln -s TERVAK.INP tervak.inp";
     return text;
   }
-  if (S_ISLNK(entry.st_mode) && stat(name.c_str(), &entry) != 0)
-    return std::string("cannot open the deck: it is a link to a file that cannot be reached: ") +
-           std::strerror(errno);
+  if (std::filesystem::is_symlink(entry)) {
+    static_cast<void>(std::filesystem::status(file, error));
+    if (error)
+      return std::string("cannot open the deck: it is a link to a file that cannot be reached: ") +
+             error.message();
+  }
   errno = 0;
-  const std::ifstream again(name, std::ios::binary);
+  const std::ifstream again(file, std::ios::binary);
   return std::string("cannot open the deck: ") +
          (again.is_open() || errno == 0 ? "its stream has failed" : std::strerror(errno));
 }

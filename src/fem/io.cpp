@@ -1,11 +1,11 @@
 #include "fem/io.hpp"
 
-#include <unistd.h>
 #include <stdexcept>
 
 #include "fem/errors.hpp"
 #include "fem/utils/source_position.hpp"
 #include "fem/utils/stripped.hpp"
+#include "Platform/streams.hpp"
 
 namespace fem {
 
@@ -17,14 +17,7 @@ void add_standard_unit(std::map<int, unit_file>& units, int unit, std::FILE* str
   file.stream = stream;
 }
 
-/// Cuts the file at the present position and goes to its end.
-bool truncate_here(std::FILE* stream) {
-  if (stream == nullptr) return false;
-  const long position = std::ftell(stream);
-  if (position < 0 || ftruncate(fileno(stream), position) != 0) return false;
-  static_cast<void>(std::fflush(stream));
-  return std::fseek(stream, 0, SEEK_END) == 0;
-}
+bool truncate_here(std::FILE* stream) { return stream != nullptr && tervak::os::cut_here(stream); }
 
 }  // namespace
 

@@ -1,25 +1,28 @@
-#include <sys/stat.h>
 #include <array>
-#include <cerrno>
+#include <filesystem>
 #include <stdexcept>
+#include <system_error>
 
 #include "fem/errors.hpp"
 #include "fem/io.hpp"
 #include "fem/utils/source_position.hpp"
 #include "fem/utils/stripped.hpp"
+#include "Platform/names.hpp"
+#include "Platform/streams.hpp"
 
 namespace fem {
 
 namespace {
 
 bool exists(const std::string& name) {
-  struct stat information {};
-  return stat(name.c_str(), &information) == 0 || errno != ENOENT;
+  std::error_code error;
+  static_cast<void>(std::filesystem::status(tervak::os::path_of(name), error));
+  return error != std::errc::no_such_file_or_directory;
 }
 
 /// The stream at its start, null where that fails.
 std::FILE* open_at_start(const std::string& name, const char* mode) {
-  std::FILE* stream = std::fopen(name.c_str(), mode);
+  std::FILE* stream = tervak::os::open_stream(name, mode);
   if (stream == nullptr || std::fseek(stream, 0, SEEK_SET) == 0) return stream;
   static_cast<void>(std::fclose(stream));
   return nullptr;

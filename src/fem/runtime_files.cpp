@@ -1,30 +1,30 @@
 #include <cstdio>
 #include <filesystem>
-#include <string>
 #include <system_error>
 #include <vector>
 
 #include "fem/io.hpp"
+#include "Platform/names.hpp"
 
 namespace fem {
 
 namespace {
 
 void report(const std::filesystem::path& path, const std::error_code& error) {
-  static_cast<void>(
-      std::fprintf(stderr, "Error While Accessing : %s :: %s\n", path.c_str(), error.message().c_str()));
+  static_cast<void>(std::fprintf(stderr, "Error While Accessing : %s :: %s\n",
+                                 tervak::os::name_of(path).c_str(), error.message().c_str()));
 }
 
-std::vector<std::string> regular_files_here() {
+std::vector<std::filesystem::path> regular_files_here() {
   const std::filesystem::path here = ".";
-  std::vector<std::string> names;
+  std::vector<std::filesystem::path> names;
   std::error_code error;
   std::filesystem::directory_iterator entry(here, error);
   for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
     std::error_code unexamined;
     const bool regular = entry->is_regular_file(unexamined);
     if (unexamined) report(entry->path(), unexamined);
-    if (regular) names.push_back(entry->path().filename().string());
+    if (regular) names.push_back(entry->path().filename());
   }
   if (error) report(here, error);
   return names;
@@ -33,8 +33,10 @@ std::vector<std::string> regular_files_here() {
 }  // namespace
 
 void io::remove_runtime_files() {
-  for (const std::string& name : regular_files_here())
-    if (name.starts_with("fem_io")) static_cast<void>(std::remove(name.c_str()));
+  const std::filesystem::path beginning = "fem_io";
+  std::error_code ignored;
+  for (const std::filesystem::path& name : regular_files_here())
+    if (name.native().starts_with(beginning.native())) std::filesystem::remove(name, ignored);
 }
 
 }  // namespace fem

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cctype>
-#include <ctime>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "fem/write.hpp"
+#include "Platform/local_time.hpp"
 #include "Platform/platform_names.hpp"
 
 namespace tervak {
@@ -44,10 +44,8 @@ const char* month_name(int month) {
 }
 
 void run_stamp(common& cmn, int mode, int unit_a, int unit_b, int& out, time_array& time) {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
-  time = {local.tm_year + 1900, local.tm_mon, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+  const os::local_time now = os::local_now();
+  time = {now.year, now.month, now.day, now.hour, now.minute, now.second};
   out = 0;
   if (mode != 1 && mode != 2) return;
   const auto print = [&](int unit) {
@@ -144,7 +142,7 @@ void put_details(page_image& page, std::size_t row, fem::text_ref name, fem::tex
   page.put(row, 43, "Computer         : " + machine.processor);
   page.put(row + 1, 43, "Impl. update     : ");
   page.put(row + 2, 43, "Operating system : " + machine.operating_system);
-  page.put(row + 3, 43, "CPU id           : " + machine_id(0));
+  page.put(row + 3, 43, "CPU id           : " + machine_id(machine.adapter_id));
   page.put(row + 4, 43, "Installation     : " + machine.computer);
 }
 

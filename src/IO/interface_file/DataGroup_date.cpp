@@ -1,7 +1,6 @@
-#include <ctime>
-
 #include "Control/state/identification.hpp"
 #include "IO/interface_file/DataGroup.hpp"
+#include "Platform/local_time.hpp"
 #include "Platform/platform_names.hpp"
 
 namespace IO::Tormal {
@@ -33,15 +32,12 @@ std::string two_digits(int number) {
 }
 
 std::string clock_line() {
-  const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
-  std::string month = tervak::month_name(local.tm_mon);
+  const tervak::os::local_time now = tervak::os::local_now();
+  std::string month = tervak::month_name(now.month);
   for (std::size_t i = 1; i < month.size(); ++i) month[i] = static_cast<char>(month[i] - 'A' + 'a');
-  return halves("        DATE:     " + two_digits(local.tm_mday) + "-" + month + "-" +
-                    std::to_string(local.tm_year + 1900),
-                "TIME:         " + two_digits(local.tm_hour) + ":" + two_digits(local.tm_min) + ":" +
-                    two_digits(local.tm_sec));
+  return halves(
+      "        DATE:     " + two_digits(now.day) + "-" + month + "-" + std::to_string(now.year),
+      "TIME:         " + two_digits(now.hour) + ":" + two_digits(now.minute) + ":" + two_digits(now.second));
 }
 
 }  // namespace
@@ -50,7 +46,7 @@ std::shared_ptr<DGDATE> make_date_record(fem::text_ref name, fem::text_ref versi
   const tervak::platform_names& machine = tervak::platform();
   return std::make_shared<DGDATE>(std::vector<std::string>{
       program_line(name, version, date), clock_line(),
-      halves("        COMPUTER: " + machine.operating_system, "INSTALLATION: " + machine.computer),
+      halves("        COMPUTER: " + machine.interface_file_system, "INSTALLATION: " + machine.computer),
       halves("        USER:     " + machine.user, "ACCOUNT:                          ")});
 }
 

@@ -34,6 +34,7 @@ platform_names ask() {
   if (known) {
     names.computer = std::string(system.nodename).substr(0, 25);
     names.operating_system = std::string(system.sysname) + " " + system.release;
+    names.interface_file_system = names.operating_system;
   }
   names.user = user_name().substr(0, 20);
   if (known) names.processor = system.machine;

@@ -1,0 +1,7 @@
+#include "Platform/desktop.hpp"
+
+namespace tervak::os {
+
+const desktop* system_desktop() { return nullptr; }
+
+}  // namespace tervak::os
