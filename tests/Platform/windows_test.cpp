@@ -10,7 +10,7 @@ namespace tervak::os {
 
 namespace {
 
-TEST(windows, names_of_its_versions) {
+TEST(Windows, NamesOfItsVersions) {
   struct row {
     windows_version version;
     const char *banner, *interface_file;
@@ -31,7 +31,7 @@ TEST(windows, names_of_its_versions) {
   }
 }
 
-TEST(windows, number_of_the_adapters) {
+TEST(Windows, NumberOfTheAdapters) {
   const hardware_address a = {0x11, 0x22, 0x93, 0x44, 0x55, 0x66}, zero = {0x77, 0, 0x80, 0, 0, 0x77};
   EXPECT_EQ(adapter_number({}), 0);
   EXPECT_EQ(adapter_number({zero, a}), 0x13225544);
@@ -64,7 +64,7 @@ const desktop RECORDING = {[](const char* name, unsigned style, int icon, int cu
                              calls.push_back(joined("execute", operation, file, command));
                            }};
 
-TEST(windows, entry_of_the_desktop) {
+TEST(Windows, EntryOfTheDesktop) {
   const std::string registration = "class|WindowClass|131072|101|32512|0";
   EXPECT_TRUE(enter(RECORDING));
   EXPECT_EQ(calls, (std::vector<std::string>{registration, "window|WindowClass|Kestra|134217728",
