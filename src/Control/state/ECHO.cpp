@@ -20,7 +20,7 @@ void copy_lines(common& cmn, int NFR, int NFW) {
   int NOW = 1;
   try {
     for (;; ++NOW) {
-      const auto line = read_line<80>(cmn, NFR, "(a80)");
+      const auto line = read_line_of_deck<80>(cmn, NFR, "(a83)", NOW == 1);
       fem::write(cmn.units, NFW, "(i5,'----',1x,a80)", NOW, line);
     }
   } catch (const fem::read_end&) {

@@ -15,7 +15,7 @@ void copy_lines(common& cmn) {
   for (int count = 1;; ++count) {
     fem::fixed_text<120> line;
     try {
-      line = read_line<120>(cmn, cmn.NFINP, "(a120)");
+      line = read_line_of_deck<120>(cmn, cmn.NFINP, "(a123)", count == 1);
     } catch (const fem::read_end&) {
       return;
     } catch (const fem::io_err&) {

@@ -8,7 +8,7 @@ using EchoLinerd = scratch_run;
 
 // Heading and rulers stand in a golden listing.
 TEST_F(EchoLinerd, EchoNumbersLinesAndCutsThemAt80) {
-  put("fem_io_unit_014", " one\r\n" + std::string(85, 'x') + "\nlast");
+  put("fem_io_unit_014", "\xEF\xBB\xBF one\r\n" + std::string(85, 'x') + "\nlast");
   tervak::ECHO(cmn, 14, 16, "TERVAK");
   const std::string lines = "\n\n    1----  one" + std::string(76, ' ') + "\n    2---- " +
                             std::string(80, 'x') + "\n    3---- last" + std::string(76, ' ') + "\n\n";

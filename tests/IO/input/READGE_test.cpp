@@ -91,7 +91,7 @@ TEST(READGE, CopiesTheFirstProfilesLinesWithoutComments) {
   const std::pair<std::string, std::string> rows[] = {
       {"* heading\n\nCOMMENT\n*x\nc y\n a\r\nend\nENDING\nbehind\n",
        padded("* heading") + padded("") + padded(" a") + padded("end")},
-      {wide + "\nlast", wide.substr(10) + "\n" + padded("last")},
+      {"\xEF\xBB\xBF" + wide + "\nlast", wide.substr(10) + "\n" + padded("last")},
       {"END\nbehind\n", ""}};
   for (const auto& [deck, copy] : rows) {
     input_run run;
